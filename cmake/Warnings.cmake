@@ -1,0 +1,11 @@
+# The warnings that every target of the project is built with.
+option(ZRSTRING_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+
+function(zrstring_warnings target)
+  if(NOT MSVC)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+      $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
+  endif()
+  set_target_properties(${target} PROPERTIES
+    COMPILE_WARNING_AS_ERROR ${ZRSTRING_WARNINGS_AS_ERRORS})
+endfunction()
