@@ -1,0 +1,26 @@
+#ifndef ZRSTRING_HANDLES_PARAMETERS_H
+#define ZRSTRING_HANDLES_PARAMETERS_H
+
+#include <ZRString/ZRStringHandles.h>
+
+// A handle function states its tests as one list, FirstInvalid(...), with one entry per parameter
+// in parameter order, so that a parameter's position and its status cannot disagree.
+
+constexpr bool NotNull(const void* pointer) { return pointer != nullptr; }
+constexpr bool NotNegative(ZRLong value) { return value >= 0; }
+constexpr bool LengthOrToEnd(ZRLong length) { return length >= -1; }
+constexpr bool CapacityOrCurrent(ZRLong capacity) { return capacity >= -1; }
+constexpr bool LengthOrToZero(ZRLong length) { return length >= -1; }
+constexpr bool EndOrToEnd(ZRLong end) { return end >= -1; }
+constexpr bool AtLeastOne(ZRLong count) { return count >= 1; }
+constexpr bool Untested() { return true; }
+
+/// The status of the first entry that is false: 3 + its position, counted from 1. 0 when none is.
+template <typename... Entries>
+constexpr ZRLong FirstInvalid(Entries... valid) {
+  ZRLong status = 3;
+  const bool found = ((++status, !valid) || ...);
+  return found ? status : kZRStatusSuccess;
+}
+
+#endif

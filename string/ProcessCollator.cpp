@@ -1,0 +1,43 @@
+#include "string/ProcessCollator.h"
+
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+namespace {
+
+/// Written once, under `creation`; read without it.
+struct CollatorOwner {
+  ~CollatorOwner() { delete collator.load(std::memory_order_relaxed); }
+
+  std::mutex creation;
+  std::atomic<const icu::Collator*> collator{nullptr};
+};
+
+const icu::Collator* ProcessCollator() {
+  // The clean-ups of local statics run in reverse: the locale goes first, then the collator.
+  static CollatorOwner owner;
+  if (const icu::Collator* existing = owner.collator.load(std::memory_order_acquire))
+    return existing;
+  static const icu::Locale locale;
+
+  const std::lock_guard<std::mutex> lock(owner.creation);
+  if (const icu::Collator* existing = owner.collator.load(std::memory_order_relaxed))
+    return existing;
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<icu::Collator> created(icu::Collator::createInstance(locale, status));
+  if (U_FAILURE(status))
+    return nullptr;
+  owner.collator.store(created.get(), std::memory_order_release);
+  return created.release();
+}
+
+}  // namespace
+
+signed char Collate(const icu::UnicodeString& first, const icu::UnicodeString& second) {
+  const icu::Collator* const collator = ProcessCollator();
+  return collator ? static_cast<signed char>(collator->compare(first, second)) : 0;
+}
