@@ -1,0 +1,200 @@
+#ifndef ZRSTRING_ZRSTRINGMUTATOR_H
+#define ZRSTRING_ZRSTRINGMUTATOR_H
+
+#include <ZRString/ZRString.h>
+
+/// A Unicode normalization form. The numbers are this library's own, not ICU's.
+enum ZRStringNormalizationMode : int {
+  kZRNormalizationNFC = 2,   ///< canonical composition
+  kZRNormalizationNFKC = 3,  ///< compatibility composition
+  kZRNormalizationNFD = 4,   ///< canonical decomposition
+  kZRNormalizationNFKD = 5,  ///< compatibility decomposition
+  kZRNormalizationFCD = 6    ///< fast C or D: not a form of its own, but fit for comparing
+};
+
+/// An editable string: a ZRString that takes a body of its own before it changes text.
+///
+/// **Sharing.** Construction from a whole string, construction from a handle, and assignment share
+/// the source's body and copy nothing. Every editing member first *detaches*: a shared body is
+/// copied, once, and no other string ever sees the edit. An edit that turns out to change nothing
+/// detaches as well; only Normalize() does not.
+///
+/// **Operands.** The conventions of ZRString hold: positions and ranges are cut to the text they
+/// refer to, a length of -1 for this string or for a ZRString operand means to its end, a negative
+/// length of a raw operand means up to its terminating zero unit, and `Between` members take
+/// inclusive ends. An operand may be this string itself or share its body; it is read as it was
+/// before the edit. The same holds for a raw operand that points into this string's own units.
+///
+/// **Results.** Editing members return this object, so that edits chain.
+///
+/// **Errors.** The library's own allocation, the body that detaching makes, throws `std::bad_alloc`
+/// and leaves this string and every operand as they were. When ICU itself runs out of memory inside
+/// an edit, or a text would grow past what ICU can hold, the text is in ICU's error state: it reads
+/// as empty and ignores edits until SetTo() gives it a new text, Truncate(0) makes it an empty one
+/// or another string is assigned.
+///
+/// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
+/// edits; use the string for nothing else meanwhile.
+///
+/// **Threads.** As ZRString: a mutator, and all that share its body, belong to one thread at a
+/// time.
+class ZR_API ZRStringMutator : public ZRString {
+ public:
+  ZRStringMutator();  ///< An empty string.
+
+  /// The constructors of ZRString with the same arguments.
+  ZRStringMutator(const UniStr255& record);
+  ZRStringMutator(const unsigned char* text, ZRLong start, ZRLong length);   ///< windows-1252
+  ZRStringMutator(const char* text, ZRLong start, ZRLong length);            ///< windows-1252
+  ZRStringMutator(const unsigned short* text, ZRLong start, ZRLong length);  ///< UTF-16
+
+  /// A range of `source`; shares its body exactly when ZRString would.
+  ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length);
+
+  ZRStringMutator(const ZRString& source);         ///< Shares the body of `source`.
+  ZRStringMutator(const ZRStringMutator& source);  ///< Shares the body of `source`.
+
+  /// Shares the body of the string that `handle` stands for; an empty string for a null handle.
+  ZRStringMutator(ZRStringRef__* handle);
+  ZRStringMutator(ZRMutableStringRef__* handle);  ///< The same.
+
+  ~ZRStringMutator() override;
+
+  /// Gives up this string's body and shares that of `other`; copies no units.
+  ZRStringMutator& operator=(const ZRStringMutator& other);
+  ZRStringMutator& operator=(const ZRString& other);  ///< The same.
+
+  /// Makes a range of `source` the whole text.
+  ZRStringMutator& SetTo(const ZRString& source, ZRLong start, ZRLong length);
+
+  /// Makes the first `length` units of `text` the whole text.
+  ZRStringMutator& SetTo(const unsigned short* text, ZRLong length);
+
+  /// Replaces the unit at `offset`: below 0 the first one, past the end the last one. An empty
+  /// string stays empty.
+  ZRStringMutator& SetCharAt(ZRLong offset, unsigned short unit);
+
+  ZRStringMutator& operator+=(unsigned short unit);    ///< Appends a unit.
+  ZRStringMutator& operator+=(const ZRString& other);  ///< Appends the whole of `other`.
+
+  /// Appends a range of `source`.
+  ZRStringMutator& Append(const ZRString& source, ZRLong start, ZRLong length);
+
+  /// The same with a raw operand.
+  ZRStringMutator& Append(const unsigned short* text, ZRLong start, ZRLong length);
+
+  /// Inserts a range of `source` before the unit at `position`.
+  ZRStringMutator& Insert(ZRLong position, const ZRString& source, ZRLong start, ZRLong length);
+
+  /// The same with a raw operand.
+  ZRStringMutator& Insert(ZRLong position, const unsigned short* text, ZRLong start, ZRLong length);
+
+  /// Replaces `length` units from `position` by a range of `source`.
+  ZRStringMutator& Replace(ZRLong position, ZRLong length, const ZRString& source, ZRLong srcStart,
+                           ZRLong srcLength);
+
+  /// The same with a raw operand.
+  ZRStringMutator& Replace(ZRLong position, ZRLong length, const unsigned short* text,
+                           ZRLong srcStart, ZRLong srcLength);
+
+  /// Replaces the units `start` through `end` by the units `srcStart` through `srcEnd` of `source`.
+  ZRStringMutator& ReplaceBetween(ZRLong start, ZRLong end, const ZRString& source, ZRLong srcStart,
+                                  ZRLong srcEnd);
+
+  ZRStringMutator& Remove(ZRLong start, ZRLong length);      ///< Removes `length` units.
+  ZRStringMutator& RemoveBetween(ZRLong start, ZRLong end);  ///< Removes through `end`.
+
+  /// Replaces every occurrence of a range of `oldText` inside [start, start + length) by a range
+  /// of `newText`. What was put in is not searched again; an empty old range changes nothing.
+  ///
+  /// A raw operand is read up to its first zero unit, which must be there even when its length is
+  /// given; its range is cut to that text and copied before this string detaches.
+  ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
+                                  ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
+                                  ZRLong newStart, ZRLong newLength);
+  ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const unsigned short* oldText,
+                                  ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
+                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+  ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
+                                  ZRLong oldStart, ZRLong oldLength, const unsigned short* newText,
+                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+  ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const unsigned short* oldText,
+                                  ZRLong oldStart, ZRLong oldLength, const unsigned short* newText,
+                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+
+  /// Brings the text into a normalization form.
+  /// @return 1 when the text was replaced by its normalized form; 0 when a quick check found it in
+  ///         that form, when `mode` is none of the five, or when ICU reported an error. With 0 the
+  ///         string is unchanged and a shared body stays shared.
+  unsigned char Normalize(ZRStringNormalizationMode mode);
+
+  /// Fills up to `targetLength` units with `padUnit` at the front.
+  /// @return 1 when the string was shorter, else 0.
+  unsigned char PadLeading(ZRLong targetLength, unsigned short padUnit);
+
+  /// The same at the end.
+  unsigned char PadTrailing(ZRLong targetLength, unsigned short padUnit);
+
+  /// Cuts the text to `targetLength` units.
+  /// @return 1 when the string was longer, else 0; 0 for a negative length too.
+  unsigned char Truncate(ZRLong targetLength);
+
+  /// Removes leading and trailing white space, as ICU's `u_isWhitespace` knows it.
+  ZRStringMutator& Trim();
+
+  /// Reverses a range; surrogate pairs in it stay in order.
+  ZRStringMutator& Reverse(ZRLong start, ZRLong length);
+
+  /// Full case mapping by ICU's default locale; the length may change.
+  ZRStringMutator& ToUpper();
+  ZRStringMutator& ToLower();  ///< The same.
+
+  const unsigned short* GetBuffer() const override;
+  void Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const override;
+  void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
+                      ZRLong dstStart) const override;
+
+  /// Makes a range of this string the whole text of `target`, which detaches; this string does
+  /// not.
+  void Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const;
+
+  /// The same with an inclusive end.
+  void ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& target) const;
+
+  /// This string followed by `other`.
+  ZRStringMutator operator+(const ZRString& other) const;
+
+  /// Detaches and opens the text's own storage for writing, with room for at least `minCapacity`
+  /// units (-1: its current capacity). The previous units are still in it.
+  ///
+  /// Null when a buffer is open already, when `minCapacity` is below -1, or when ICU has no memory.
+  /// Valid until ReleaseBuffer(). A string copied from this one while the buffer is open shares
+  /// the body and sees what is written.
+  virtual unsigned short* GetBuffer(ZRLong minCapacity);
+
+  /// Closes the buffer and makes `newLength` the length, at most the capacity; -1: up to the first
+  /// zero unit in the buffer, or the whole capacity when there is none. Nothing when no buffer is
+  /// open or `newLength` is below -1. Acts on the body held at this moment, without detaching.
+  void ReleaseBuffer(ZRLong newLength);
+
+  /// The units followed by a zero unit, without detaching. The units may move: a pointer that
+  /// GetBuffer() gave, here or from a string that shares the body, is then invalid. Null while a
+  /// buffer is open and when ICU has no memory.
+  const unsigned short* GetTerminatedBuffer();
+
+  ZRLong GetCapacity() const;  ///< Units that the text's storage has room for.
+
+  /// This object's own address as a handle, valid as long as the object lives.
+  ZRMutableStringRef__* GetZRMutableStringRef();
+};
+
+/// `left` followed by `unit`.
+ZR_API ZRStringMutator operator+(const ZRString& left, unsigned short unit);
+
+/// `unit` followed by `right`.
+ZR_API ZRStringMutator operator+(unsigned short unit, const ZRString& right);
+
+/// The mutable string that a handle stands for. `handle` must not be null.
+ZR_API ZRStringMutator& GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
+
+#endif

@@ -1,0 +1,141 @@
+#include <ZRString/ZRStringMutator.h>
+#include <unicode/normlzr.h>
+
+#include "string/CodeUnits.h"
+#include "string/Range.h"
+#include "string/TerminatedRange.h"
+#include "string/ZRStringImplementation.h"
+
+// The members of ZRStringMutator that work on every occurrence of a text or on the whole text.
+
+namespace {
+
+UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
+  switch (mode) {
+    case kZRNormalizationNFC:
+      return UNORM_NFC;
+    case kZRNormalizationNFKC:
+      return UNORM_NFKC;
+    case kZRNormalizationNFD:
+      return UNORM_NFD;
+    case kZRNormalizationNFKD:
+      return UNORM_NFKD;
+    case kZRNormalizationFCD:
+      return UNORM_FCD;
+  }
+  return UNORM_NONE;
+}
+
+// ICU 72 reads the operands anew at each match, and so would read its own replacements where an
+// operand is the text under edit. The callers hold a share of every ZRString operand, for which
+// CopyOnWrite() leaves the operand's text as it is and gives the edit another body.
+void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
+                const icu::UnicodeString& oldText, ZRLong oldStart, ZRLong oldLength,
+                const icu::UnicodeString& newText, ZRLong newStart, ZRLong newLength) {
+  edited.findAndReplace(start, Resolved(length, edited), oldText, oldStart,
+                        Resolved(oldLength, oldText), newText, newStart,
+                        Resolved(newLength, newText));
+}
+
+}  // namespace
+
+ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
+                                                 const ZRString& oldText, ZRLong oldStart,
+                                                 ZRLong oldLength, const ZRString& newText,
+                                                 ZRLong newStart, ZRLong newLength) {
+  const ZRString oldKept(oldText);
+  const ZRString newKept(newText);
+  CopyOnWrite();
+  ReplaceAll(body_->text, start, length, oldKept.body_->text, oldStart, oldLength,
+             newKept.body_->text, newStart, newLength);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
+                                                 const unsigned short* oldText, ZRLong oldStart,
+                                                 ZRLong oldLength, const ZRString& newText,
+                                                 ZRLong newStart, ZRLong newLength) {
+  const icu::UnicodeString oldOperand = TerminatedRange(oldText, oldStart, oldLength);
+  const ZRString newKept(newText);
+  CopyOnWrite();
+  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newKept.body_->text, newStart,
+             newLength);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
+                                                 const ZRString& oldText, ZRLong oldStart,
+                                                 ZRLong oldLength, const unsigned short* newText,
+                                                 ZRLong newStart, ZRLong newLength) {
+  const icu::UnicodeString newOperand = TerminatedRange(newText, newStart, newLength);
+  const ZRString oldKept(oldText);
+  CopyOnWrite();
+  ReplaceAll(body_->text, start, length, oldKept.body_->text, oldStart, oldLength, newOperand, 0,
+             newLength);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
+                                                 const unsigned short* oldText, ZRLong oldStart,
+                                                 ZRLong oldLength, const unsigned short* newText,
+                                                 ZRLong newStart, ZRLong newLength) {
+  const icu::UnicodeString oldOperand = TerminatedRange(oldText, oldStart, oldLength);
+  const icu::UnicodeString newOperand = TerminatedRange(newText, newStart, newLength);
+  CopyOnWrite();
+  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newOperand, 0, newLength);
+  return *this;
+}
+
+unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
+  const ZRLong length = GetLength();
+  const icu::UnicodeString current(ToIcu(GetBuffer()), length);
+  icu::UnicodeString normalized;
+  const UNormalizationMode icuMode = IcuMode(mode);
+  UErrorCode status = U_ZERO_ERROR;
+  if (icu::Normalizer::quickCheck(current, icuMode, status) == UNORM_YES)
+    return 0;
+  icu::Normalizer::normalize(current, icuMode, 0, normalized, status);
+  if (U_FAILURE(status))
+    return 0;
+  SetTo(FromIcu(normalized.getBuffer()), normalized.length());
+  return 1;
+}
+
+unsigned char ZRStringMutator::PadLeading(ZRLong targetLength, unsigned short padUnit) {
+  CopyOnWrite();
+  return body_->text.padLeading(targetLength, padUnit);
+}
+
+unsigned char ZRStringMutator::PadTrailing(ZRLong targetLength, unsigned short padUnit) {
+  CopyOnWrite();
+  return body_->text.padTrailing(targetLength, padUnit);
+}
+
+unsigned char ZRStringMutator::Truncate(ZRLong targetLength) {
+  CopyOnWrite();
+  return body_->text.truncate(targetLength);
+}
+
+ZRStringMutator& ZRStringMutator::Trim() {
+  CopyOnWrite();
+  body_->text.trim();
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Reverse(ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  body_->text.reverse(start, Resolved(length, body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::ToUpper() {
+  CopyOnWrite();
+  body_->text.toUpper();
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::ToLower() {
+  CopyOnWrite();
+  body_->text.toLower();
+  return *this;
+}

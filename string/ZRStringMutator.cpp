@@ -1,0 +1,203 @@
+#include <ZRString/ZRStringMutator.h>
+
+#include "string/CodeUnits.h"
+#include "string/Range.h"
+#include "string/ZRStringImplementation.h"
+
+// Every edit runs in this order: detach, then read the operands' bodies, then resolve lengths, then
+// one ICU call. An operand that is this string itself is so read in its new body.
+
+ZRStringMutator::ZRStringMutator() = default;
+
+ZRStringMutator::ZRStringMutator(const UniStr255& record) : ZRString(record) {}
+
+ZRStringMutator::ZRStringMutator(const unsigned char* text, ZRLong start, ZRLong length)
+    : ZRString(text, start, length) {}
+
+ZRStringMutator::ZRStringMutator(const char* text, ZRLong start, ZRLong length)
+    : ZRString(text, start, length) {}
+
+ZRStringMutator::ZRStringMutator(const unsigned short* text, ZRLong start, ZRLong length)
+    : ZRString(text, start, length) {}
+
+ZRStringMutator::ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length)
+    : ZRString(source, start, length) {}
+
+ZRStringMutator::ZRStringMutator(const ZRString& source) : ZRString(source) {}
+
+ZRStringMutator::ZRStringMutator(const ZRStringMutator& source) : ZRString(source) {}
+
+ZRStringMutator::ZRStringMutator(ZRStringRef__* handle) : ZRString(handle) {}
+
+ZRStringMutator::ZRStringMutator(ZRMutableStringRef__* handle) : ZRString(handle) {}
+
+ZRStringMutator::~ZRStringMutator() = default;
+
+ZRStringMutator& ZRStringMutator::operator=(const ZRStringMutator& other) {
+  ZRString::operator=(other);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::operator=(const ZRString& other) {
+  ZRString::operator=(other);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  body_->text.setTo(source.body_->text, start, Resolved(length, source.body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::SetTo(const unsigned short* text, ZRLong length) {
+  CopyOnWrite();
+  body_->text.setTo(ToIcu(text), RawLength(length));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::SetCharAt(ZRLong offset, unsigned short unit) {
+  CopyOnWrite();
+  body_->text.setCharAt(offset, unit);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::operator+=(unsigned short unit) {
+  CopyOnWrite();
+  body_->text += static_cast<char16_t>(unit);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::operator+=(const ZRString& other) {
+  CopyOnWrite();
+  body_->text += other.body_->text;
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Append(const ZRString& source, ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  body_->text.append(source.body_->text, start, Resolved(length, source.body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  const RawRange raw = RawRangeOf(text, start, length);
+  body_->text.append(raw.units, raw.length);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source, ZRLong start,
+                                         ZRLong length) {
+  CopyOnWrite();
+  body_->text.insert(position, source.body_->text, start, Resolved(length, source.body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* text, ZRLong start,
+                                         ZRLong length) {
+  CopyOnWrite();
+  const RawRange raw = RawRangeOf(text, start, length);
+  body_->text.insert(position, raw.units, raw.length);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length, const ZRString& source,
+                                          ZRLong srcStart, ZRLong srcLength) {
+  CopyOnWrite();
+  body_->text.replace(position, Resolved(length, body_->text), source.body_->text, srcStart,
+                      Resolved(srcLength, source.body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length,
+                                          const unsigned short* text, ZRLong srcStart,
+                                          ZRLong srcLength) {
+  CopyOnWrite();
+  const RawRange raw = RawRangeOf(text, srcStart, srcLength);
+  body_->text.replace(position, Resolved(length, body_->text), raw.units, raw.length);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::ReplaceBetween(ZRLong start, ZRLong end, const ZRString& source,
+                                                 ZRLong srcStart, ZRLong srcEnd) {
+  CopyOnWrite();
+  const Range own = Between(start, end, body_->text);
+  const Range other = Between(srcStart, srcEnd, source.body_->text);
+  body_->text.replaceBetween(own.start, own.limit, source.body_->text, other.start, other.limit);
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Remove(ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  body_->text.remove(start, Resolved(length, body_->text));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::RemoveBetween(ZRLong start, ZRLong end) {
+  CopyOnWrite();
+  const Range own = Between(start, end, body_->text);
+  body_->text.removeBetween(own.start, own.limit);
+  return *this;
+}
+
+const unsigned short* ZRStringMutator::GetBuffer() const { return ZRString::GetBuffer(); }
+
+void ZRStringMutator::Extract(ZRLong start, ZRLong length, unsigned short* dst,
+                              ZRLong dstStart) const {
+  ZRString::Extract(start, length, dst, dstStart);
+}
+
+void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
+                                     ZRLong dstStart) const {
+  ZRString::ExtractBetween(start, end, dst, dstStart);
+}
+
+void ZRStringMutator::Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const {
+  target.CopyOnWrite();
+  body_->text.extract(start, Resolved(length, body_->text), target.body_->text);
+}
+
+void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& target) const {
+  target.CopyOnWrite();
+  const Range own = Between(start, end, body_->text);
+  body_->text.extractBetween(own.start, own.limit, target.body_->text);
+}
+
+ZRStringMutator ZRStringMutator::operator+(const ZRString& other) const {
+  ZRStringMutator result(*this);
+  result.Append(other, 0, kToEnd);
+  return result;
+}
+
+ZRStringMutator operator+(const ZRString& left, unsigned short unit) {
+  ZRStringMutator result(left);
+  result += unit;
+  return result;
+}
+
+ZRStringMutator operator+(unsigned short unit, const ZRString& right) {
+  ZRStringMutator result(right);
+  result.Insert(0, &unit, 0, 1);
+  return result;
+}
+
+unsigned short* ZRStringMutator::GetBuffer(ZRLong minCapacity) {
+  CopyOnWrite();
+  return FromIcu(body_->text.getBuffer(minCapacity));
+}
+
+void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { body_->text.releaseBuffer(newLength); }
+
+const unsigned short* ZRStringMutator::GetTerminatedBuffer() {
+  return FromIcu(body_->text.getTerminatedBuffer());
+}
+
+ZRLong ZRStringMutator::GetCapacity() const { return body_->text.getCapacity(); }
+
+ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() {
+  return reinterpret_cast<ZRMutableStringRef__*>(this);
+}
+
+ZRStringMutator& GetZRStringMutatorFromRef(ZRMutableStringRef__* handle) {
+  return *reinterpret_cast<ZRStringMutator*>(handle);
+}
