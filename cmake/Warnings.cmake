@@ -3,7 +3,7 @@ option(ZRSTRING_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
 function(zrstring_warnings target)
   if(NOT MSVC)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
       $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
   endif()
   set_target_properties(${target} PROPERTIES

@@ -1,0 +1,147 @@
+/* Looks a word up in a word list in windows-1252, one entry a line, through the handle interface.
+ * The list is sorted in linguistic order, and entries that are equal without regard to case are
+ * dropped. */
+
+#include <ZRString/ZRStringHandles.h>
+#include <errno.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+enum { kIgnoreCase = 0, kCollated = 3, kToEnd = -1 };
+
+static void Fail(const char* what, const char* subject) {
+  fprintf(stderr, "lookup: %s%s\n", what, subject);
+  exit(2);
+}
+
+/* A status other than 0 names a parameter: here that is a fault of this program. */
+static void Check(ZRLong status) {
+  if (status != kZRStatusSuccess) {
+    fprintf(stderr, "lookup: unexpected status %ld\n", (long)status);
+    exit(3);
+  }
+}
+
+static ZRLong Compare(ZRStringRef__* left, ZRStringRef__* right, ZRULong options) {
+  ZRLong result = 0;
+  Check(ZRStringICompare(left, 0, kToEnd, right, 0, kToEnd, options, &result));
+  return result;
+}
+
+static int CompareEntries(const void* left, const void* right) {
+  return (int)Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kCollated);
+}
+
+static unsigned char* ReadFile(const char* path, size_t* size) {
+  FILE* const file = fopen(path, "rb");
+  unsigned char* bytes = NULL;
+  size_t capacity = 0;
+  *size = 0;
+  if (!file)
+    Fail("cannot read ", path);
+  do {
+    capacity = capacity * 2 + 65536;
+    bytes = realloc(bytes, capacity);
+    if (!bytes)
+      Fail("no memory for ", path);
+    *size += fread(bytes + *size, 1, capacity - *size, file);
+  } while (*size == capacity);
+  if (ferror(file))
+    Fail("cannot read ", path);
+  fclose(file);
+  return bytes;
+}
+
+/* Appends a string for each line that is not empty. */
+static void Decode(const unsigned char* bytes, size_t size, ZRStringPtrArrayRef__* words) {
+  size_t start = 0;
+  while (start < size) {
+    const unsigned char* const newline = memchr(bytes + start, '\n', size - start);
+    const size_t limit = newline ? (size_t)(newline - bytes) : size;
+    size_t length = limit - start;
+    if (length > 0 && bytes[limit - 1] == '\r')
+      --length;
+    if (length > 0) {
+      ZRStringRef__* word = NULL;
+      Check(ZRStringCreateFromLocalString(bytes + start, 0, (ZRLong)length, &word));
+      Check(ZRStringPtrArrayPushBack(words, word));
+    }
+    start = limit + 1;
+  }
+}
+
+static ZRStringRef__* EntryAt(ZRStringPtrArrayRef__* words, ZRULong index) {
+  ZRStringRef__* entry = NULL;
+  Check(GetZRStringRefAt(words, (ZRLong)index, &entry));
+  return entry;
+}
+
+static ZRULong SizeOf(ZRStringPtrArrayRef__* words) {
+  ZRULong size = 0;
+  Check(ZRStringPtrArraySize(words, &size));
+  return size;
+}
+
+/* Arrays have no sort of their own: the handles are sorted outside and put back. */
+static void Sort(ZRStringPtrArrayRef__* words) {
+  const ZRULong size = SizeOf(words);
+  ZRStringRef__** const handles = malloc((size + 1) * sizeof *handles);
+  if (!handles)
+    Fail("no memory", "");
+  for (ZRULong i = 0; i < size; ++i)
+    handles[i] = EntryAt(words, i);
+  qsort(handles, size, sizeof *handles, CompareEntries);
+  Check(ZRStringPtrArrayEraseAll(words));
+  for (ZRULong i = 0; i < size; ++i) {
+    /* Entries that differ only in case follow one another. */
+    const ZRULong kept = SizeOf(words);
+    if (kept > 0 && Compare(EntryAt(words, kept - 1), handles[i], kIgnoreCase) == 0)
+      Check(ZRStringDestroy(handles[i]));
+    else
+      Check(ZRStringPtrArrayPushBack(words, handles[i]));
+  }
+  free(handles);
+}
+
+static ZRULong LowerBound(ZRStringPtrArrayRef__* words, ZRStringRef__* word) {
+  ZRULong first = 0;
+  ZRULong count = SizeOf(words);
+  while (count > 0) {
+    const ZRULong half = count / 2;
+    if (Compare(EntryAt(words, first + half), word, kCollated) < 0) {
+      first += half + 1;
+      count -= half + 1;
+    } else {
+      count = half;
+    }
+  }
+  return first;
+}
+
+int main(int argc, char** argv) {
+  if (argc != 3)
+    Fail("usage: lookup FILE WORD (both in windows-1252)", "");
+  size_t size = 0;
+  unsigned char* const bytes = ReadFile(argv[1], &size);
+  ZRStringPtrArrayRef__* words = NULL;
+  ZRStringRef__* word = NULL;
+  Check(ZRStringPtrArrayCreate(&words));
+  Check(ZRStringCreateFromLocalString((const unsigned char*)argv[2], 0, kToEnd, &word));
+  Decode(bytes, size, words);
+  free(bytes);
+  const ZRULong decoded = SizeOf(words);
+  Sort(words);
+
+  const ZRULong place = LowerBound(words, word);
+  const int found = place < SizeOf(words) && Compare(EntryAt(words, place), word, kCollated) == 0;
+  printf("%lu entries, %lu kept\n", (unsigned long)decoded, (unsigned long)SizeOf(words));
+  printf(found ? "entry %lu\n" : "not there; it would be entry %lu\n", (unsigned long)place + 1);
+
+  Check(ZRStringDestroy(word));
+  Check(ZRStringPtrArrayDeleteAll(words));
+  Check(ZRStringPtrArrayDestroy(words));
+  if (fflush(stdout) != 0)
+    Fail("cannot write to standard output: ", strerror(errno));
+  return 0;
+}

@@ -1,0 +1,157 @@
+#include <ZRString/ZRStringInterfaces.h>
+#include <ZRString/ZRStringMutator.h>
+#include <ZRString/ZRStringOutput.h>
+#include <ZRString/ZRStringPtrArray.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+#include <new>
+
+#include "Text.h"
+
+namespace {
+
+int allocations = 0;
+int allocationsLeft = -1;  // below 0: without end
+
+/// The number of allocations that a call makes.
+template <typename Call>
+int Allocations(Call call) {
+  const int before = allocations;
+  call();
+  return allocations - before;
+}
+
+}  // namespace
+
+// The library's allocations reach these through the process's one operator new.
+void* operator new(std::size_t size) {
+  ++allocations;
+  if (allocationsLeft == 0)
+    throw std::bad_alloc();
+  if (allocationsLeft > 0)
+    --allocationsLeft;
+  if (void* const memory = std::malloc(size ? size : 1))
+    return memory;
+  throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace {
+
+class Allocation : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (Allocations([] { ZRString string("a", 0, 1); }) == 0)
+      GTEST_SKIP() << "the library has an operator new of its own here";
+  }
+};
+
+}  // namespace
+
+TEST_F(Allocation, ABodyIsOneAndACopyNone) {
+  const unsigned short* const text = Raw(u"abc");
+  EXPECT_EQ(Allocations([&] { ZRString string(text); }), 1);
+  const ZRString source(text);
+  ZRStringMutator mutator(source);
+  EXPECT_EQ(Allocations([&] {
+              ZRString copy(source);
+              ZRString whole(source, 0, 3);
+              ZRString handled(source.GetZRStringRef());
+              ZRStringMutator editable(source);
+              editable = copy;
+            }),
+            0);
+  EXPECT_EQ(Allocations([&] { mutator += 'd'; }), 1);
+  EXPECT_EQ(Allocations([&] {
+              mutator += 'e';
+              mutator.Find(source, 0, -1, 0, -1);
+              mutator.ICompare(0, -1, source, 0, -1, 0);
+            }),
+            0);
+  EXPECT_EQ(Allocations([&] {
+              ZRStringRef__* handle;
+              ZRStringCreateCopy(source.GetZRStringRef(), &handle);
+              ZRStringDestroy(handle);
+            }),
+            1);
+}
+
+TEST_F(Allocation, FailureLeavesEverythingAsItWas) {
+  const ZRString source = Make(u"abc");
+  ZRStringRef__* const s = source.GetZRStringRef();
+  ZRStringMutator shared(source);
+  ZRStringRef__* const untouched = reinterpret_cast<ZRStringRef__*>(8);
+  ZRStringRef__* out = untouched;
+  ZRMutableStringRef__* mutableOut = reinterpret_cast<ZRMutableStringRef__*>(untouched);
+  ZRStringPtrArrayRef__* arrayOut = reinterpret_cast<ZRStringPtrArrayRef__*>(untouched);
+  ZRStringPtrArray array;
+  array.PushBack(&shared);
+  std::basic_ostringstream<unsigned short> stream;
+  const unsigned short* const raw = Raw(u"bc");
+  const struct {
+    const char* name;
+    std::function<void()> call;
+    int points;  // allocations of the library that may fail
+  } rows[] = {
+      {"construction", [&] { ZRString string(raw); }, 1},
+      {"construction from bytes", [&] { ZRString string("abc", 0, -1); }, 1},
+      {"construction of a range", [&] { ZRString string(source, 1, -1); }, 1},
+      {"append", [&] { shared.Append(source, 0, -1); }, 1},
+      {"append itself", [&] { shared += shared; }, 1},
+      {"find and replace", [&] { shared.FindAndReplace(0, -1, raw, 0, -1, raw, 1, -1); }, 1},
+      {"find and replace by itself",
+       [&] { shared.FindAndReplace(0, -1, shared, 0, 1, shared, 0, -1); }, 1},
+      {"normalize", [&] { ZRStringMutator(Make(u"e\u0301")).Normalize(kZRNormalizationNFC); }, 1},
+      {"truncate", [&] { shared.Truncate(9); }, 1},
+      {"buffer", [&] { shared.GetBuffer(-1); }, 1},
+      {"extract", [&] { source.GetLength(), ZRStringMutator(source).Extract(0, -1, shared); }, 1},
+      {"sum", [&] { shared + source; }, 1},
+      {"array growth", [&] { array.PushBack(&shared); }, 1},
+      {"array insertion", [&] { array.Insert(0, &shared); }, 1},
+      {"output", [&] { stream << source; }, 1},
+      {"string handle", [&] { ZRStringCreateFromUniChars(raw, 0, -1, &out); }, 2},
+      {"copy handle", [&] { ZRStringCreateCopy(s, &out); }, 1},
+      {"mutable handle", [&] { ZRMutableStringCreateEmpty(&mutableOut); }, 2},
+      {"sum handle", [&] { ZRMutableStringAddStrings(s, s, &mutableOut); }, 2},
+  };
+  for (const auto& row : rows) {
+    for (int point = 0; point < row.points; ++point) {
+      SCOPED_TRACE(testing::Message() << row.name << ", allocation " << point);
+      bool thrown = false;
+      allocationsLeft = point;
+      try {
+        row.call();
+      } catch (const std::bad_alloc&) {
+        thrown = true;
+      }
+      allocationsLeft = -1;
+      EXPECT_TRUE(thrown);
+      EXPECT_EQ(BodyOf(shared), BodyOf(source));
+      EXPECT_EQ(Holders(source), 2);
+      EXPECT_EQ(TextOf(source), u"abc");
+      EXPECT_EQ(array.Size(), 1u);
+      EXPECT_EQ(out, untouched);
+      EXPECT_EQ(static_cast<void*>(mutableOut), untouched);
+    }
+  }
+  EXPECT_TRUE(stream.str().empty());
+
+  for (const int point : {0, 1}) {
+    allocationsLeft = point;
+    const ZRLong copied =
+        ZRStrPtrArrCreateFromZRStrPtrArr(array.GetZRStringPtrArrayRef(), &arrayOut);
+    allocationsLeft = 0;
+    const ZRLong created = ZRStringPtrArrayCreate(&arrayOut);
+    allocationsLeft = -1;
+    EXPECT_EQ(copied, 12);
+    EXPECT_EQ(created, 12);
+    EXPECT_EQ(static_cast<void*>(arrayOut), untouched);
+  }
+}

@@ -1,0 +1,56 @@
+#include <ZRString/ZRString.h>
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <unicode/coll.h>
+#include <unicode/locid.h>
+
+#include <string>
+
+#include "Text.h"
+
+#define ZR_STRING(text) #text
+#define ZR_EXPANDED(text) ZR_STRING(text)
+
+namespace {
+
+int creations = 0;
+bool failing = true;
+std::string createdFor;
+
+int Collated(const char16_t* left, const char16_t* right) {
+  return Make(left).ICompare(0, -1, Make(right), 0, -1, 3);
+}
+
+}  // namespace
+
+/// Stands before ICU's own, for the library too, and may fail.
+icu::Collator* icu::Collator::createInstance(const icu::Locale& locale, UErrorCode& status) {
+  ++creations;
+  createdFor = locale.getName();
+  if (failing) {
+    status = U_MEMORY_ALLOCATION_ERROR;
+    return nullptr;
+  }
+  using Original = icu::Collator* (*)(const icu::Locale&, UErrorCode&);
+  const std::string icuNamespace = ZR_EXPANDED(U_ICU_NAMESPACE);
+  const std::string symbol = "_ZN" + std::to_string(icuNamespace.size()) + icuNamespace +
+                             "8Collator14createInstanceERKNS_6LocaleER10UErrorCode";
+  static const auto original = reinterpret_cast<Original>(dlsym(RTLD_NEXT, symbol.c_str()));
+  return original(locale, status);
+}
+
+TEST(ProcessCollator, IsMadeOnceForTheFirstDefaultLocaleAndTriedAgainAfterFailure) {
+  UErrorCode status = U_ZERO_ERROR;
+  icu::Locale::setDefault(icu::Locale("sv"), status);
+  EXPECT_EQ(Make(u"a").ICompare(0, -1, Make(u"A"), 0, -1, 0), 0);
+  EXPECT_EQ(creations, 0);
+  EXPECT_EQ(Collated(u"\u00E4", u"z"), 0);
+  icu::Locale::setDefault(icu::Locale("en_US"), status);
+  EXPECT_EQ(Collated(u"a", u"b"), 0);
+  EXPECT_EQ(creations, 2);
+  failing = false;
+  EXPECT_EQ(Collated(u"\u00E4", u"z"), 1);  // Swedish order
+  EXPECT_EQ(Collated(u"a", u"b"), -1);
+  EXPECT_EQ(creations, 3);
+  EXPECT_EQ(createdFor, "sv");
+}
