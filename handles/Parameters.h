@@ -20,7 +20,7 @@ template <typename... Entries>
 constexpr ZRLong FirstInvalid(Entries... valid) {
   ZRLong status = 3;
   const bool found = ((++status, !valid) || ...);
-  return found ? status : kZRStatusSuccess;
+  return found ? status : ZRLong{kZRStatusSuccess};
 }
 
 #endif

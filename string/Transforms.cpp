@@ -26,9 +26,6 @@ UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
   return UNORM_NONE;
 }
 
-// ICU 72 reads the operands anew at each match, and so would read its own replacements where an
-// operand is the text under edit. The callers hold a share of every ZRString operand, for which
-// CopyOnWrite() leaves the operand's text as it is and gives the edit another body.
 void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
                 const icu::UnicodeString& oldText, ZRLong oldStart, ZRLong oldLength,
                 const icu::UnicodeString& newText, ZRLong newStart, ZRLong newLength) {
@@ -43,11 +40,16 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const ZRString& oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const ZRString& newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  const ZRString oldKept(oldText);
-  const ZRString newKept(newText);
+  if (&oldText == this || &newText == this) {
+    // ICU 72 reads the operands anew at each match, and so would read its own replacements where
+    // an operand is the text under edit. While a copy shares the body, the edit takes another one.
+    const ZRString before(*this);
+    return FindAndReplace(start, length, &oldText == this ? before : oldText, oldStart, oldLength,
+                          &newText == this ? before : newText, newStart, newLength);
+  }
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldKept.body_->text, oldStart, oldLength,
-             newKept.body_->text, newStart, newLength);
+  ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength,
+             newText.body_->text, newStart, newLength);
   return *this;
 }
 
@@ -55,10 +57,13 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const unsigned short* oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const ZRString& newText,
                                                  ZRLong newStart, ZRLong newLength) {
+  if (&newText == this) {
+    const ZRString before(*this);
+    return FindAndReplace(start, length, oldText, oldStart, oldLength, before, newStart, newLength);
+  }
   const icu::UnicodeString oldOperand = TerminatedRange(oldText, oldStart, oldLength);
-  const ZRString newKept(newText);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newKept.body_->text, newStart,
+  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newText.body_->text, newStart,
              newLength);
   return *this;
 }
@@ -67,10 +72,13 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const ZRString& oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const unsigned short* newText,
                                                  ZRLong newStart, ZRLong newLength) {
+  if (&oldText == this) {
+    const ZRString before(*this);
+    return FindAndReplace(start, length, before, oldStart, oldLength, newText, newStart, newLength);
+  }
   const icu::UnicodeString newOperand = TerminatedRange(newText, newStart, newLength);
-  const ZRString oldKept(oldText);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldKept.body_->text, oldStart, oldLength, newOperand, 0,
+  ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength, newOperand, 0,
              newLength);
   return *this;
 }

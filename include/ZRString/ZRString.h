@@ -30,8 +30,10 @@ class ZRStringMutator;
 /// **Results.** Three-way comparisons give -1, 0 or +1: this string's range sorts before, equal
 /// to or after the operand's. Yes/no queries give 1 or 0.
 ///
-/// **Errors.** Only constructors allocate; they throw `std::bad_alloc`. No query throws, but the
-/// collated comparisons (option 3 of ICompare()), which need memory of their own.
+/// **Errors.** Only constructors allocate. When there is no memory for the body they throw
+/// `std::bad_alloc`; when ICU has none for the units, the string reads as empty, and nothing else
+/// tells. No query throws; the collated comparisons (option 3 of ICompare()) need memory of ICU's
+/// own.
 ///
 /// **Threads.** Counts are plain integers and nothing is locked. Strings that share a body must
 /// be copied, assigned, edited and destroyed by one thread at a time; threads may read them at
@@ -126,7 +128,8 @@ class ZR_API ZRString {
                        ZRLong srcLength, ZRULong options) const;
 
   /// The same with a raw operand. With option 3 and a `srcStart` other than 0, `src` is read up to
-  /// its terminating zero unit, which must be there, and the range is cut to that text.
+  /// its terminating zero unit, which must be there, and the range is cut to that text; -1 means to
+  /// its end, any other negative length an empty range.
   signed char ICompare(ZRLong start, ZRLong length, const unsigned short* src, ZRLong srcStart,
                        ZRLong srcLength, ZRULong options) const;
 

@@ -24,6 +24,7 @@
 /// 6. **Exceptions.** `std::bad_alloc` and every other exception from a member leaves the function
 ///    as a C++ exception; only the functions that create arrays turn it into a status. A caller
 ///    that cannot let one pass must have memory to spare. No out-parameter is written then.
+///    ICU's own lack of memory is neither: the text then reads as empty.
 /// 7. **Threads.** Calls that reach one object, an object that shares its text, or one array belong
 ///    to one thread at a time.
 

@@ -42,11 +42,10 @@ class ZR_API ZRStringMutator : public ZRString {
  public:
   ZRStringMutator();  ///< An empty string.
 
-  /// The constructors of ZRString with the same arguments.
-  ZRStringMutator(const UniStr255& record);
-  ZRStringMutator(const unsigned char* text, ZRLong start, ZRLong length);   ///< windows-1252
-  ZRStringMutator(const char* text, ZRLong start, ZRLong length);            ///< windows-1252
-  ZRStringMutator(const unsigned short* text, ZRLong start, ZRLong length);  ///< UTF-16
+  ZRStringMutator(const UniStr255& record);                                  ///< As ZRString.
+  ZRStringMutator(const unsigned char* text, ZRLong start, ZRLong length);   ///< As ZRString.
+  ZRStringMutator(const char* text, ZRLong start, ZRLong length);            ///< As ZRString.
+  ZRStringMutator(const unsigned short* text, ZRLong start, ZRLong length);  ///< As ZRString.
 
   /// A range of `source`; shares its body exactly when ZRString would.
   ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length);
@@ -108,7 +107,8 @@ class ZR_API ZRStringMutator : public ZRString {
   /// of `newText`. What was put in is not searched again; an empty old range changes nothing.
   ///
   /// A raw operand is read up to its first zero unit, which must be there even when its length is
-  /// given; its range is cut to that text and copied before this string detaches.
+  /// given; its range is cut to that text and copied before this string detaches. -1 means to the
+  /// end of that text, any other negative length an empty range.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
                                   ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
                                   ZRLong newStart, ZRLong newLength);
@@ -168,8 +168,9 @@ class ZR_API ZRStringMutator : public ZRString {
   /// units (-1: its current capacity). The previous units are still in it.
   ///
   /// Null when a buffer is open already, when `minCapacity` is below -1, or when ICU has no memory.
-  /// Valid until ReleaseBuffer(). A string copied from this one while the buffer is open shares
-  /// the body and sees what is written.
+  /// Valid until ReleaseBuffer(). Do not copy the string while the buffer is open: the copy shares
+  /// the body and sees what is written, and a second call here would detach from it and leave the
+  /// copy with an open buffer that nobody can close.
   virtual unsigned short* GetBuffer(ZRLong minCapacity);
 
   /// Closes the buffer and makes `newLength` the length, at most the capacity; -1: up to the first
@@ -178,8 +179,8 @@ class ZR_API ZRStringMutator : public ZRString {
   void ReleaseBuffer(ZRLong newLength);
 
   /// The units followed by a zero unit, without detaching. The units may move: a pointer that
-  /// GetBuffer() gave, here or from a string that shares the body, is then invalid. Null while a
-  /// buffer is open and when ICU has no memory.
+  /// GetBuffer() gave, here or from a string that shares the body, is then invalid. For threads
+  /// this is an edit. Null while a buffer is open and when ICU has no memory.
   const unsigned short* GetTerminatedBuffer();
 
   ZRLong GetCapacity() const;  ///< Units that the text's storage has room for.

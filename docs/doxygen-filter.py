@@ -1,0 +1,32 @@
+#!/usr/bin/env python3
+"""Prints a public header as Doxygen is to read it. Line numbers stay as they are.
+
+An uncommented member of the interface classes gets a link to the plain function of its name, which
+the class comment says it is. Specializations of the standard library's templates are left out:
+Doxygen has no declaration to attach them to.
+"""
+import re
+import sys
+
+
+def leave_out_specialization(lines, start):
+    while lines[start - 1].startswith("///"):
+        start -= 1
+    while lines[start] != "}":
+        lines[start] = ""
+        start += 1
+    lines[start] = ""
+
+
+def main():
+    with open(sys.argv[1], encoding="utf-8") as file:
+        lines = file.read().splitlines()
+    for i, line in enumerate(lines):
+        if line.startswith("  static ZRLong ") and "///" not in lines[i - 1]:
+            lines[i] = re.sub(r"(static ZRLong (\w+)\()", r"/** ::\2() */ \1", line)
+        if line == "template <>":
+            leave_out_specialization(lines, i)
+    sys.stdout.buffer.write(("\n".join(lines) + "\n").encode("utf-8"))
+
+
+main()
