@@ -29,8 +29,15 @@ static ZRLong Compare(ZRStringRef__* left, ZRStringRef__* right, ZRULong options
   return result;
 }
 
-static int CompareEntries(const void* left, const void* right) {
+static int InOrder(const void* left, const void* right) {
   return (int)Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kCollated);
+}
+
+/* Brings entries together that are equal without regard to case, the first in order first. */
+static int ByText(const void* left, const void* right) {
+  const ZRLong order =
+      Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kIgnoreCase);
+  return order != 0 ? (int)order : InOrder(left, right);
 }
 
 static unsigned char* ReadFile(const char* path, size_t* size) {
@@ -83,24 +90,27 @@ static ZRULong SizeOf(ZRStringPtrArrayRef__* words) {
   return size;
 }
 
-/* Arrays have no sort of their own: the handles are sorted outside and put back. */
+/* Drops what an earlier entry in order equals without regard to case, and sorts. Arrays have no
+ * sort of their own: the handles are sorted outside and put back. */
 static void Sort(ZRStringPtrArrayRef__* words) {
   const ZRULong size = SizeOf(words);
+  ZRULong kept = 0;
   ZRStringRef__** const handles = malloc((size + 1) * sizeof *handles);
   if (!handles)
     Fail("no memory", "");
   for (ZRULong i = 0; i < size; ++i)
     handles[i] = EntryAt(words, i);
-  qsort(handles, size, sizeof *handles, CompareEntries);
   Check(ZRStringPtrArrayEraseAll(words));
+  qsort(handles, size, sizeof *handles, ByText);
   for (ZRULong i = 0; i < size; ++i) {
-    /* Entries that differ only in case follow one another. */
-    const ZRULong kept = SizeOf(words);
-    if (kept > 0 && Compare(EntryAt(words, kept - 1), handles[i], kIgnoreCase) == 0)
+    if (kept > 0 && Compare(handles[kept - 1], handles[i], kIgnoreCase) == 0)
       Check(ZRStringDestroy(handles[i]));
     else
-      Check(ZRStringPtrArrayPushBack(words, handles[i]));
+      handles[kept++] = handles[i];
   }
+  qsort(handles, kept, sizeof *handles, InOrder);
+  for (ZRULong i = 0; i < kept; ++i)
+    Check(ZRStringPtrArrayPushBack(words, handles[i]));
   free(handles);
 }
 

@@ -30,7 +30,7 @@ namespace {
 constexpr ZRULong kIgnoreCase = 0;
 constexpr ZRULong kCollated = 3;
 constexpr ZRLong kToEnd = -1;
-constexpr int kShown = 5;
+constexpr ZRLong kShown = 5;
 
 constexpr const char* kUsage =
     "usage: wordlist FILE [--replace OLD NEW] [--save LIST] [--find WORD]\n"

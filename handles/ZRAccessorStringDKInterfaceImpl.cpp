@@ -10,12 +10,10 @@ namespace {
 constexpr ZRLong kToEnd = -1;
 constexpr unsigned short kNoUnit = 0xFFFF;
 
-/// The inclusive end of a range whose parameters have been tested. -1 gives the length of `string`
-/// and a range past the greatest index gives that index; both mean through the end.
-ZRLong InclusiveEnd(const ZRString& string, ZRLong start, ZRLong length) {
-  if (length == kToEnd)
-    return string.GetLength();
-  return start > INT_MAX - length ? INT_MAX : start + length - 1;
+/// The inclusive end of a range whose parameters have been tested. The greatest index stands for
+/// every end past it, and for a length of -1: to a Between member both mean through the end.
+constexpr ZRLong InclusiveEnd(ZRLong start, ZRLong length) {
+  return length == kToEnd || start > INT_MAX - length ? INT_MAX : start + length - 1;
 }
 
 }  // namespace
@@ -88,8 +86,8 @@ ZRLong ZRAccessorStringDKInterfaceImpl::ZRStringCompare(ZRStringRef__* string, Z
     return status;
   const ZRString& own = GetZRStringFromRef(string);
   const ZRString& other = GetZRStringFromRef(src);
-  *result = own.CompareBetween(start, InclusiveEnd(own, start, length), other, srcStart,
-                               InclusiveEnd(other, srcStart, srcLength));
+  *result = own.CompareBetween(start, InclusiveEnd(start, length), other, srcStart,
+                               InclusiveEnd(srcStart, srcLength));
   return kZRStatusSuccess;
 }
 
@@ -102,8 +100,8 @@ ZRLong ZRAccessorStringDKInterfaceImpl::ZRStringCompareCodePointOrder(
     return status;
   const ZRString& own = GetZRStringFromRef(string);
   const ZRString& other = GetZRStringFromRef(src);
-  *result = own.CompareCodePointOrderBetween(start, InclusiveEnd(own, start, length), other,
-                                             srcStart, InclusiveEnd(other, srcStart, srcLength));
+  *result = own.CompareCodePointOrderBetween(start, InclusiveEnd(start, length), other, srcStart,
+                                             InclusiveEnd(srcStart, srcLength));
   return kZRStatusSuccess;
 }
 
@@ -117,8 +115,8 @@ ZRLong ZRAccessorStringDKInterfaceImpl::ZRStringICompare(ZRStringRef__* string, 
     return status;
   const ZRString& own = GetZRStringFromRef(string);
   const ZRString& other = GetZRStringFromRef(src);
-  *result = own.ICompareBetween(start, InclusiveEnd(own, start, length), other, srcStart,
-                                InclusiveEnd(other, srcStart, srcLength), options);
+  *result = own.ICompareBetween(start, InclusiveEnd(start, length), other, srcStart,
+                                InclusiveEnd(srcStart, srcLength), options);
   return kZRStatusSuccess;
 }
 

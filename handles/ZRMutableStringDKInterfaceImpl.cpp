@@ -118,9 +118,7 @@ ZRLong ZRMutableStringDKInterfaceImpl::ZRMutableStringInsert(ZRMutableStringRef_
   if (const ZRLong status = FirstInvalid(NotNull(string), NotNegative(position), NotNull(src),
                                          NotNegative(srcStart), LengthOrToEnd(srcLength)))
     return status;
-  const ZRString& source = GetZRStringFromRef(src);
-  const ZRLong count = srcLength == kToEnd ? source.GetLength() - srcStart : srcLength;
-  GetZRStringMutatorFromRef(string).Insert(position, source, srcStart, count);
+  GetZRStringMutatorFromRef(string).Insert(position, GetZRStringFromRef(src), srcStart, srcLength);
   return kZRStatusSuccess;
 }
 

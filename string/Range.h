@@ -10,34 +10,27 @@
 /// As a length: to the end of the string that the range refers to.
 constexpr ZRLong kToEnd = -1;
 
-/// A length with kToEnd resolved. Whatever the start, ICU cuts the range at the end of `text`.
-inline std::int32_t Resolved(ZRLong length, const icu::UnicodeString& text) {
-  return length == kToEnd ? text.length() : length;
-}
+/// A length with kToEnd resolved. ICU cuts every range of a string at that string's end, so the
+/// greatest length is as good as the string's own and needs no look at it.
+constexpr std::int32_t Resolved(ZRLong length) { return length == kToEnd ? INT32_MAX : length; }
 
-/// A range that lies inside a text: 0 <= start <= limit <= the text's length.
+/// The start and the exclusive limit of a range; ICU cuts what lies past the end of the text.
 struct Range {
-  std::int32_t start;
-  std::int32_t limit;
+  std::int32_t start;  // not negative
+  std::int32_t limit;  // not negative
 
+  /// Negative when the limit lies before the start, which to ICU is an empty range.
   std::int32_t Length() const { return limit - start; }
 };
 
-/// The units `start` through `end`, both inclusive, cut to `text`.
+/// The units `start` through `end`, both inclusive.
 ///
-/// ICU 72's own Between members subtract before they pin: a negative start makes the range longer
-/// there, and extremes overflow. An end at or past the last index is never incremented.
-inline Range Between(ZRLong start, ZRLong end, const icu::UnicodeString& text) {
-  const std::int32_t length = text.length();
-  const std::int32_t first = std::clamp<std::int32_t>(start, 0, length);
-  return {first, end < length ? std::max<std::int32_t>(end + 1, first) : length};
-}
-
-/// `length` units from `start`, kToEnd resolved, cut to `text`.
-inline Range Pinned(ZRLong start, ZRLong length, const icu::UnicodeString& text) {
-  const std::int32_t first = std::clamp<std::int32_t>(start, 0, text.length());
-  const std::int32_t rest = text.length() - first;
-  return {first, first + std::clamp<std::int32_t>(Resolved(length, text), 0, rest)};
+/// ICU 72's own Between members subtract before they pin: a negative start would make the range
+/// longer there, and extremes would overflow. An end that has no successor stands for the end.
+constexpr Range Between(ZRLong start, ZRLong end) {
+  const auto limit = static_cast<std::uint32_t>(std::max<std::int32_t>(end, -1)) + 1;
+  return {std::max<std::int32_t>(start, 0),
+          static_cast<std::int32_t>(std::min<std::uint32_t>(limit, INT32_MAX))};
 }
 
 #endif

@@ -29,9 +29,8 @@ UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
 void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
                 const icu::UnicodeString& oldText, ZRLong oldStart, ZRLong oldLength,
                 const icu::UnicodeString& newText, ZRLong newStart, ZRLong newLength) {
-  edited.findAndReplace(start, Resolved(length, edited), oldText, oldStart,
-                        Resolved(oldLength, oldText), newText, newStart,
-                        Resolved(newLength, newText));
+  edited.findAndReplace(start, Resolved(length), oldText, oldStart, Resolved(oldLength), newText,
+                        newStart, Resolved(newLength));
 }
 
 }  // namespace
@@ -132,7 +131,7 @@ ZRStringMutator& ZRStringMutator::Trim() {
 
 ZRStringMutator& ZRStringMutator::Reverse(ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.reverse(start, Resolved(length, body_->text));
+  body_->text.reverse(start, Resolved(length));
   return *this;
 }
 

@@ -45,7 +45,7 @@ ZRStringMutator& ZRStringMutator::operator=(const ZRString& other) {
 
 ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.setTo(source.body_->text, start, Resolved(length, source.body_->text));
+  body_->text.setTo(source.body_->text, start, Resolved(length));
   return *this;
 }
 
@@ -75,7 +75,7 @@ ZRStringMutator& ZRStringMutator::operator+=(const ZRString& other) {
 
 ZRStringMutator& ZRStringMutator::Append(const ZRString& source, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.append(source.body_->text, start, Resolved(length, source.body_->text));
+  body_->text.append(source.body_->text, start, Resolved(length));
   return *this;
 }
 
@@ -89,7 +89,7 @@ ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong star
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
-  body_->text.insert(position, source.body_->text, start, Resolved(length, source.body_->text));
+  body_->text.insert(position, source.body_->text, start, Resolved(length));
   return *this;
 }
 
@@ -104,8 +104,8 @@ ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* 
 ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length, const ZRString& source,
                                           ZRLong srcStart, ZRLong srcLength) {
   CopyOnWrite();
-  body_->text.replace(position, Resolved(length, body_->text), source.body_->text, srcStart,
-                      Resolved(srcLength, source.body_->text));
+  body_->text.replace(position, Resolved(length), source.body_->text, srcStart,
+                      Resolved(srcLength));
   return *this;
 }
 
@@ -114,28 +114,30 @@ ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length,
                                           ZRLong srcLength) {
   CopyOnWrite();
   const RawRange raw = RawRangeOf(text, srcStart, srcLength);
-  body_->text.replace(position, Resolved(length, body_->text), raw.units, raw.length);
+  body_->text.replace(position, Resolved(length), raw.units, raw.length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::ReplaceBetween(ZRLong start, ZRLong end, const ZRString& source,
                                                  ZRLong srcStart, ZRLong srcEnd) {
   CopyOnWrite();
-  const Range own = Between(start, end, body_->text);
-  const Range other = Between(srcStart, srcEnd, source.body_->text);
+  const Range own = Between(start, end);
+  const Range other = Between(srcStart, srcEnd);
   body_->text.replaceBetween(own.start, own.limit, source.body_->text, other.start, other.limit);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Remove(ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.remove(start, Resolved(length, body_->text));
+  // Not the greatest length: from a start of 0 that is another operation of ICU's, which ends its
+  // error state.
+  body_->text.remove(start, length == kToEnd ? body_->text.length() : length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::RemoveBetween(ZRLong start, ZRLong end) {
   CopyOnWrite();
-  const Range own = Between(start, end, body_->text);
+  const Range own = Between(start, end);
   body_->text.removeBetween(own.start, own.limit);
   return *this;
 }
@@ -154,12 +156,12 @@ void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, unsigned short* d
 
 void ZRStringMutator::Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const {
   target.CopyOnWrite();
-  body_->text.extract(start, Resolved(length, body_->text), target.body_->text);
+  body_->text.extract(start, Resolved(length), target.body_->text);
 }
 
 void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& target) const {
   target.CopyOnWrite();
-  const Range own = Between(start, end, body_->text);
+  const Range own = Between(start, end);
   body_->text.extractBetween(own.start, own.limit, target.body_->text);
 }
 

@@ -2,15 +2,19 @@
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringPtrArray.h>
+#include <ZRString/ZRStringStream.h>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <new>
 
 #include "Text.h"
 
 namespace {
+
+constexpr int kFresh = 0xA5;  // what memory holds before it is written
 
 int allocations = 0;
 int allocationsLeft = -1;  // below 0: without end
@@ -33,7 +37,7 @@ void* operator new(std::size_t size) {
   if (allocationsLeft > 0)
     --allocationsLeft;
   if (void* const memory = std::malloc(size ? size : 1))
-    return memory;
+    return std::memset(memory, kFresh, size);
   throw std::bad_alloc();
 }
 
@@ -81,6 +85,33 @@ TEST_F(Allocation, ABodyIsOneAndACopyNone) {
               ZRStringDestroy(handle);
             }),
             1);
+}
+
+// So a damaged length commits no memory before units arrive for it.
+TEST_F(Allocation, ARecordsBufferIsNotTouchedAheadOfItsUnits) {
+  struct Watching : Velmar::IStream {
+    void Write(const ZRLong*) override {}
+    void Write(const ZRULong*) override {}
+    void Write(const unsigned short*) override {}
+    void Read(ZRLong* value) override { *value = 1000; }
+    void Read(ZRULong* value) override { *value = 1; }
+    void Read(unsigned short* value) override {
+      EXPECT_EQ(value[0], 0);
+      if (++read < 1000) {
+        EXPECT_EQ(value[1], kFresh << 8 | kFresh);
+      }
+    }
+    int read = 0;
+  };
+  ZRStringMutator target;
+  Watching string;
+  string >> target;
+  EXPECT_EQ(TextOf(target), std::u16string(1000, u'\0'));
+  ZRStringPtrArray strings;
+  Watching array;
+  array >> strings;
+  EXPECT_EQ(array.read, 1000);
+  strings.DeleteAll();
 }
 
 TEST_F(Allocation, FailureLeavesEverythingAsItWas) {

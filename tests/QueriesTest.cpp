@@ -185,7 +185,7 @@ TEST(Queries, ExtractWritesTheRangeAndOneZeroUnit) {
                             Cut(text, start, lengthOrEnd)));
     dst = untouched;
     string.ExtractBetween(start, lengthOrEnd, units, 2);
-    EXPECT_EQ(dst, expected(start >= 0 && start <= std::min(lengthOrEnd, 4) + 1,
+    EXPECT_EQ(dst, expected(start >= 0 && start <= std::min<ZRLong>(lengthOrEnd, 4) + 1,
                             CutBetween(text, start, lengthOrEnd)));
   });
 }

@@ -1,0 +1,53 @@
+# What `cmake --install` and the packages put where, in two components: Runtime is what programs
+# need to run, Development what compiling and debugging them takes.
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(zrstring_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZRString)
+
+install(TARGETS ZRString EXPORT ZRString
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/ZRString include/Velmar
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development
+  FILES_MATCHING PATTERN *.h)
+
+install(EXPORT ZRString NAMESPACE ZRString:: FILE ZRStringTargets.cmake
+  DESTINATION ${zrstring_cmake_dir} COMPONENT Development)
+configure_package_config_file(cmake/ZRStringConfig.cmake.in ZRStringConfig.cmake
+  INSTALL_DESTINATION ${zrstring_cmake_dir}
+  NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(ZRStringConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${CMAKE_CURRENT_BINARY_DIR}/ZRStringConfig.cmake
+    ${CMAKE_CURRENT_BINARY_DIR}/ZRStringConfigVersion.cmake
+  DESTINATION ${zrstring_cmake_dir} COMPONENT Development)
+
+# The .pc file finds its prefix from where it lies, so that an installed tree can be moved. A
+# directory that is absolute stands there as it is.
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+  BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE zrstring_pc_to_prefix)
+cmake_path(APPEND zrstring_pc_includedir "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
+cmake_path(APPEND zrstring_pc_libdir "\${prefix}" ${CMAKE_INSTALL_LIBDIR})
+configure_file(cmake/zrstring.pc.in zrstring.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrstring.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+
+# GDB loads the script by itself when it lies below its auto-load directory under the name and the
+# full path of the library; with the prefix /usr it does.
+if(EXISTS ${PROJECT_SOURCE_DIR}/platform/debugger/zrstring-gdb.py AND NOT WIN32)
+  install(FILES platform/debugger/zrstring-gdb.py
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+    COMPONENT Development
+    RENAME libZRString.so.${PROJECT_VERSION}-gdb.py)
+endif()
+if(EXISTS ${PROJECT_SOURCE_DIR}/platform/debugger/ZRString.natvis)
+  install(FILES platform/debugger/ZRString.natvis
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
+endif()
+
+if(PROJECT_IS_TOP_LEVEL AND CMAKE_SYSTEM_NAME STREQUAL Linux)
+  include(cmake/Packages.cmake)
+endif()

@@ -1,0 +1,124 @@
+#!/usr/bin/env bash
+#
+# Installs a build of ZRString into a folder of its own, moves it elsewhere, and uses it there as
+# outside projects do: compares the installed files with files.txt, builds and runs a C++ project
+# through find_package and a C project through pkg-config, and compiles every public header alone.
+#
+# ctest starts it with what it needs in the environment: BUILD, the build folder; CONFIG, its build
+# type; LIBDIR and FULL_LIBDIR, where it installs libraries, under the prefix and as a full path;
+# CMAKE, CC, CXX and CXXFLAGS.
+
+set -euo pipefail
+unset DESTDIR PKG_CONFIG_PATH LD_LIBRARY_PATH CPATH LIBRARY_PATH
+
+tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
+work=$BUILD/tests/install/work
+prefix=$work/moved
+failures=0
+
+say() { printf '%s\n' "-- $*"; }
+fail() {
+  printf 'FAILED: %s\n' "$*"
+  failures=$((failures + 1))
+}
+
+install_into() {
+  "$CMAKE" --install "$BUILD" ${CONFIG:+--config "$CONFIG"} --prefix "$@" >"$work/install.log" || {
+    cat "$work/install.log"
+    exit 1
+  }
+}
+
+# compare_files PREFIX COMPONENTS: the files below PREFIX with those that files.txt lists for
+# COMPONENTS, a regular expression.
+compare_files() {
+  local config=${CONFIG:-noconfig}
+  sed -nE "s#^($2) ##p" "$tests/files.txt" |
+    sed -e "s|/FULL_LIBDIR/|$FULL_LIBDIR/|" -e "s|^LIBDIR/|$LIBDIR/|" -e "s|CONFIG|${config,,}|" |
+    LC_ALL=C sort >"$work/expected"
+  (cd "$1" && find . ! -type d -printf '%P\n') | LC_ALL=C sort >"$work/found"
+  diff -u "$work/expected" "$work/found" || fail "the files of $2 differ from files.txt"
+}
+
+# dynamic ENTRY FILE: the values of a kind of entry in a file's dynamic section.
+dynamic() { readelf -d "$2" | sed -nE "s/.*\(($1)\).*\[(.*)\]/\2/p"; }
+
+# The program must print what is in the file EXPECTED, and need this library but not ICU.
+run_program() {
+  local program=$1 expected=$2 needed
+  LD_LIBRARY_PATH=$prefix/$LIBDIR "$program" >"$work/output" || fail "$program ended with status $?"
+  diff -u "$expected" "$work/output" || fail "the output of $program"
+  needed=$(dynamic NEEDED "$program")
+  grep -qx 'libZRString\.so\.1' <<<"$needed" || fail "$program does not need libZRString.so.1"
+  ! grep -i icu <<<"$needed" || fail "$program was linked with ICU"
+}
+
+# compile_alone HEADER COMPILER OPTION...: compiles a file which includes nothing but HEADER; no
+# header of ICU may come in with it.
+compile_alone() {
+  local header=$1 unit=$work/alone.cpp
+  shift
+  case $* in *-std=c99*) unit=$work/alone.c ;; esac
+  printf '#include <%s>\n' "$header" >"$unit"
+  if ! "$@" -I "$prefix/include" -Wall -Wextra -Werror -fsyntax-only "$unit" ||
+    ! "$@" -I "$prefix/include" -E "$unit" >"$work/preprocessed"; then
+    fail "$header alone: $*"
+  elif grep -m 3 'unicode/' "$work/preprocessed"; then
+    fail "$header brings a header of ICU in"
+  fi
+}
+
+rm -rf "$work"
+mkdir -p "$work"
+
+say "the installed files"
+install_into "$work/runtime" --component Runtime
+compare_files "$work/runtime" Runtime
+install_into "$work/installed"
+compare_files "$work/installed" 'Runtime|Development'
+mv "$work/installed" "$prefix"
+[ -z "$(dynamic 'RPATH|RUNPATH' "$prefix/$LIBDIR/libZRString.so.1.0.0")" ] ||
+  fail "the library has a search path of its own"
+! grep -rF "$BUILD" "$prefix/$LIBDIR/cmake" "$prefix/$LIBDIR/pkgconfig" ||
+  fail "the installed files name the build folder"
+
+say "a C++ project, through find_package"
+if "$CMAKE" -S "$tests/cpp" -B "$work/cpp" -DCMAKE_PREFIX_PATH="$prefix" \
+  -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_CXX_FLAGS="$CXXFLAGS -Wall -Wextra -Werror" \
+  >"$work/cpp.log" 2>&1 &&
+  "$CMAKE" --build "$work/cpp" >>"$work/cpp.log" 2>&1; then
+  grep -q "^ZRString_DIR:.*=$prefix/" "$work/cpp/CMakeCache.txt" ||
+    fail "another ZRString was found than the installed one"
+  run_program "$work/cpp/notebook" "$tests/cpp/notebook.txt"
+  for standard in 17 20 23; do
+    run_program "$work/cpp/vector$standard" "$tests/cpp/vector.txt"
+  done
+else
+  cat "$work/cpp.log"
+  fail "the C++ project"
+fi
+
+say "a C project, through pkg-config"
+export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
+cp -r "$tests/c" "$work/c"
+if make -C "$work/c" CC="$CC" >"$work/c.log" 2>&1; then
+  run_program "$work/c/addresses" "$tests/c/addresses.txt"
+else
+  cat "$work/c.log"
+  fail "the C project"
+fi
+[ "$(pkg-config --modversion zrstring)" = 1.0.0 ] || fail "the version in zrstring.pc"
+
+say "the public headers"
+for header in ZRString/ZRTypes.h ZRString/ZRStringHandles.h; do
+  compile_alone "$header" "$CC" -std=c99 -pedantic
+done
+while read -r header; do
+  for standard in c++17 c++20 c++2b; do
+    # shellcheck disable=SC2086 # several options
+    compile_alone "$header" "$CXX" $CXXFLAGS -std=$standard -pedantic
+  done
+done < <(cd "$prefix/include" && find . -name '*.h' -printf '%P\n')
+
+say "$failures failed"
+[ "$failures" -eq 0 ]

@@ -1,0 +1,72 @@
+"""Tests of examples/python/lookup.py, which is the one argument."""
+
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+# Empty and blank lines, CR LF, a CR alone, bytes 0x80 to 0x9F, a zero byte, no newline at the end.
+AWKWARD = (
+    b"zythum\r\n\ncote\n\r\nc\xf4t\xe9\n  \nc\xf4te\n\x80uro\nCOTE\n"
+    b"\x8cuvre\na\0b\na\rb\n\x9f\r\ncot\xe9"
+)
+KEPT = "12 entries, 11 kept\n"
+VAIN = "not there; it would be entry "
+
+ROWS = [
+    ("the last of four that differ in accents", AWKWARD, "c\u00f4t\u00e9", KEPT + "entry 8\n"),
+    ("with a bare CR", AWKWARD, "a\rb", KEPT + "entry 3\n"),
+    ("from bytes 0x80 to 0x9F", AWKWARD, "\u20acuro", KEPT + "entry 2\n"),
+    ("the last one", AWKWARD, "zythum", KEPT + "entry 11\n"),
+    ("in vain, amid", AWKWARD, "cotee", KEPT + VAIN + "9\n"),
+    ("in vain, behind", AWKWARD, "zz", KEPT + VAIN + "12\n"),
+    ("dropped in another case", AWKWARD, "COTE", KEPT + VAIN + "6\n"),
+    ("there in another case only", b"M2", "m2", "1 entries, 1 kept\n" + VAIN + "1\n"),
+    ("an empty file", b"", "a", "0 entries, 0 kept\n" + VAIN + "1\n"),
+    ("newlines only", b"\n\r\n", "a", "0 entries, 0 kept\n" + VAIN + "1\n"),
+    # Sorted m2, m2 with a superscript, M2: what is equal does not stand together.
+    ("apart in order", b"M2\nm\xb2\nm2", "m\u00b2", "3 entries, 2 kept\nentry 2\n"),
+]
+
+
+class Lookup(unittest.TestCase):
+    def run_it(self, *arguments):
+        environment = dict(os.environ, LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1")
+        done = subprocess.run(
+            [sys.executable, LOOKUP, *arguments],
+            env=environment,
+            stdout=subprocess.PIPE,
+            stderr=subprocess.PIPE,
+        )
+        return done.returncode, done.stdout.decode(), done.stderr.decode()
+
+    def test_lists(self):
+        with tempfile.TemporaryDirectory() as directory:
+            path = os.path.join(directory, "words")
+            for name, data, word, printed in ROWS:
+                with open(path, "wb") as file:
+                    file.write(data)
+                with self.subTest(name):
+                    expected = (0, printed.replace("\n", os.linesep), "")
+                    self.assertEqual(self.run_it(path, word), expected)
+
+    def test_failures_are_sentences_and_status_2(self):
+        with tempfile.TemporaryDirectory() as directory:
+            missing = os.path.join(directory, "missing")
+            for arguments, sentence in [
+                ((), "usage: lookup.py FILE WORD"),
+                ((missing,), "usage: lookup.py FILE WORD"),
+                ((missing, "a", "b"), "usage: lookup.py FILE WORD"),
+                ((missing, "a"), "cannot read " + missing),
+                ((directory, "a"), "cannot read " + directory),
+            ]:
+                with self.subTest(arguments):
+                    status, printed, complaint = self.run_it(*arguments)
+                    self.assertEqual((status, printed, complaint.count("\n")), (2, "", 1))
+                    self.assertTrue(complaint.startswith("lookup: " + sentence), complaint)
+
+
+if __name__ == "__main__":
+    LOOKUP = sys.argv.pop(1)
+    unittest.main(verbosity=2)

@@ -1,0 +1,236 @@
+"""Tests of examples/python/zrstring.py. The one argument is ZRStringHandles.h."""
+
+import contextlib
+import doctest
+import gc
+import re
+import subprocess
+import sys
+import unittest
+from unittest import mock
+
+import zrstring
+from zrstring import IndexOutside, InvalidArgument, MutableString, String, StringArray
+
+# The C types of the parameters, without spaces, and what passes them.
+TYPES = {
+    "constchar*": zrstring.Bytes,
+    "unsignedshort**": zrstring.Out(zrstring.Units),
+    "ZRLong": zrstring.Long,
+    "ZRULong": zrstring.ULong,
+    "unsignedshort": zrstring.Unit,
+    "constunsignedchar*": zrstring.Bytes,
+    "constunsignedshort*": zrstring.Units,
+    "unsignedshort*": zrstring.Units,
+    "ZRLong*": zrstring.Out(zrstring.Long),
+    "ZRULong*": zrstring.Out(zrstring.ULong),
+    "unsignedchar*": zrstring.Out(zrstring.Bool),
+}
+for handle in ("ZRStringRef__*", "ZRMutableStringRef__*", "ZRStringPtrArrayRef__*"):
+    TYPES[handle] = zrstring.Handle
+    TYPES[handle + "*"] = zrstring.Out(zrstring.Handle)
+
+EDITS = [
+    ("append", ("!",), "Stra\u00dfe!"),
+    ("insert", (3, "xyz", 1, 1), "Strya\u00dfe"),
+    ("set", ("replaced", 2), "placed"),
+    ("set_unit", (0, "s"), "stra\u00dfe"),
+    ("replace", (1, 2, "--"), "S--a\u00dfe"),
+    ("find_and_replace", ("r", "RR"), "StRRa\u00dfe"),
+    ("remove_between", (1, 2), "Sa\u00dfe"),
+    ("pad_leading", (8, "*"), "**Stra\u00dfe"),
+    ("pad_trailing", (8,), "Stra\u00dfe  "),
+    ("truncate", (2,), "St"),
+    ("to_upper", (), "STRASSE"),
+    ("to_lower", (), "stra\u00dfe"),
+    ("reverse", (1,), "Se\u00dfart"),
+]
+
+
+@contextlib.contextmanager
+def destroyed():
+    """The list of the destroy functions called, kept up to date."""
+    calls = []
+
+    def recording(name, function):
+        return lambda handle: (calls.append(name), function(handle))
+
+    names = ["ZRStringDestroy", "ZRMutableStringDestroy", "ZRStringPtrArrayDestroy"]
+    spies = {name: recording(name, zrstring._functions[name]) for name in names}
+    with mock.patch.dict(zrstring._functions, spies):
+        yield calls
+
+
+def library_entries(array):
+    """The handles that the library's own array holds."""
+    get = zrstring._library.GetZRStringRefAt
+    get.argtypes = [zrstring.Handle, zrstring.Long, zrstring.Out(zrstring.Handle)]
+    handles = [zrstring.Handle() for _ in range(len(array))]
+    for index, handle in enumerate(handles):
+        get(array, index, handle)
+    return [handle.value for handle in handles]
+
+
+class Module(unittest.TestCase):
+    def test_functions_are_those_of_the_header(self):
+        with open(HEADER, encoding="utf-8") as file:
+            code = re.sub(r"//[^\n]*", "", file.read())
+        declared = {}
+        for name, parameters in re.findall(r"ZR_API ZRLong (\w+)\(([^)]*)\);", code):
+            pairs = (re.fullmatch(r"(.*?)(\w+)", text, re.DOTALL) for text in parameters.split(","))
+            declared[name] = [(pair[2], TYPES[re.sub(r"\s", "", pair[1])]) for pair in pairs]
+        for name, parameters in zrstring.FUNCTIONS.items():
+            with self.subTest(name):
+                self.assertEqual(parameters, declared[name])
+
+    def test_statuses_name_the_parameter(self):
+        s, m, a = String("abc"), MutableString("abc"), StringArray(["x"])
+        rows = [
+            (lambda: String(None), "ZRStringCreateCopy: parameter 1 (source)"),
+            (lambda: s.find("a", -1), "ZRStringFind: parameter 2 (start)"),
+            (lambda: s.find("a", -(2**32)), "ZRStringFind: parameter 2 (start)"),
+            (lambda: s.find("a", 0, -2), "ZRStringFind: parameter 3 (length)"),
+            (lambda: s.rfind(None), "ZRStringRFind: parameter 4 (pattern)"),
+            (lambda: s.compare("a", 0, 1, 0, -2), "ZRStringCompare: parameter 6 (srcLength)"),
+            (
+                lambda: zrstring.call("ZRStringICompare", s, 0, -1, s, 0, -1, 0, None),
+                "ZRStringICompare: parameter 8 (result)",
+            ),
+            (lambda: m.insert(0, "b", -1), "ZRMutableStringInsert: parameter 4 (srcStart)"),
+            (lambda: m.truncate(-1), "ZRMutableStringTruncate: parameter 2 (targetLength)"),
+            (lambda: s + None, "ZRMutableStringAddStrings: parameter 2 (second)"),
+            (lambda: a.append(None), "ZRStringPtrArrayPushBack: parameter 2 (string)"),
+            (lambda: a.insert(0, None), "InsertZRStringRefAt: parameter 3 (string)"),
+            (lambda: a.__setitem__(0, None), "SetZRStringRefAt: parameter 3 (string)"),
+        ]
+        for call, message in rows:
+            with self.subTest(message), self.assertRaises(InvalidArgument) as caught:
+                call()
+            self.assertEqual(str(caught.exception), message)
+        self.assertEqual((str(m), list(map(str, a))), ("abc", ["x"]))
+
+    def test_numbers_beyond_32_bits_do_not_wrap(self):
+        self.assertEqual(String("abc").find("a", 2**32), -1)
+        with self.assertRaisesRegex(Exception, "not one UTF-16 code unit"):
+            String("abc").last_index_of("\U0001f600")
+
+    def test_objects_are_destroyed_once_by_their_kind(self):
+        with destroyed() as calls:
+            objects = [String("ab"), MutableString("b"), StringArray()]
+            objects.append(objects[0][1:])
+            self.assertEqual(calls, [])
+            objects.clear()
+            gc.collect()
+            kinds = ["ZRMutableStringDestroy"] + 2 * ["ZRStringDestroy"]
+            self.assertEqual(sorted(calls), kinds + ["ZRStringPtrArrayDestroy"])
+
+    def test_objects_alive_at_exit_are_destroyed(self):
+        script = (
+            "import zrstring\n"
+            "destroy = zrstring._functions['ZRStringDestroy']\n"
+            "spy = lambda handle: (print('destroyed'), destroy(handle))\n"
+            "zrstring._functions['ZRStringDestroy'] = spy\n"
+            "a = zrstring.StringArray(['x', 'y'])\n"
+            "a.itself = a\n"
+        )
+        done = subprocess.run(
+            [sys.executable, "-c", script], stdout=subprocess.PIPE, stderr=subprocess.PIPE
+        )
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertEqual(done.stdout.split(), [b"destroyed"] * 2)
+
+    def test_array_keeps_its_strings_until_they_leave_it(self):
+        with destroyed() as calls:
+            array = StringArray("abcde")
+            for step, change in enumerate(
+                [
+                    lambda: None,
+                    lambda: array.__setitem__(0, MutableString("A")),
+                    lambda: array.__setitem__(-1, "E"),
+                    lambda: array.__delitem__(-2),
+                    lambda: array.__delitem__(1),
+                ]
+            ):
+                change()
+                gc.collect()
+                self.assertEqual(len(calls), step)
+            array.insert(-1, "d")
+            array.insert(0, "0")
+            self.assertEqual("".join(map(str, array)), "0AcdE")
+            owned = [string._as_parameter_.value for string in array]
+            self.assertEqual(library_entries(array), owned)
+            array.clear()
+            gc.collect()
+            self.assertEqual((len(calls), len(array)), (4 + 5, 0))
+
+    def test_array_index_outside(self):
+        array = StringArray(["a", "b"])
+        for index in (2, -3, 2**32):
+            for change in (
+                lambda: array[index],
+                lambda: array.__setitem__(index, "x"),
+                lambda: array.__delitem__(index),
+                lambda: array.insert(index, "x"),
+            ):
+                with self.assertRaises(IndexOutside):
+                    change()
+        self.assertEqual((list(map(str, array)), len(library_entries(array))), (["a", "b"], 2))
+
+    def test_edits_show_in_no_other_string(self):
+        for edit, arguments, expected in EDITS:
+            source = String("Stra\u00dfe")
+            edited, other = MutableString(source), MutableString(source)
+            getattr(edited, edit)(*arguments)
+            with self.subTest(edit):
+                found = str(edited), str(source), str(other)
+                self.assertEqual(found, (expected, "Stra\u00dfe", "Stra\u00dfe"))
+        padded = MutableString("  a ")
+        self.assertEqual(str(padded.trim()), "a")
+        self.assertEqual((padded.pad_leading(1), padded.pad_leading(2)), (False, True))
+        padded += padded
+        self.assertEqual(str(padded), " a a")
+
+    def test_every_unit_passes_both_ways(self):
+        for text, length in [
+            ("", 0),
+            ("a\0b", 3),
+            ("\U0001f600", 2),
+            ("\ud83d", 1),
+            ("a\ude00\ud83d", 3),
+            ("\ufeff\uffff", 2),
+        ]:
+            with self.subTest(ascii(text)):
+                for kind in (String, MutableString):
+                    self.assertEqual((str(kind(text)), len(kind(text))), (text, length))
+        self.assertEqual(str(String("\U0001f600")[:1]), "\ud83d")
+        self.assertEqual(str(String("\ud83d") + "\ude00"), "\U0001f600")
+        self.assertEqual(str(String("abc")[-2:]), "bc")
+        self.assertEqual(str(String("abc")[2:1]), "")
+
+    def test_local_bytes(self):
+        for kind in (String, MutableString):
+            self.assertEqual(str(kind.from_local(b"\x80\x9f\0\xe9")), "\u20ac\u0178\0\u00e9")
+
+    def test_comparisons(self):
+        low, high = String("\uffee"), String("\U0001f600")
+        self.assertTrue(high < low and low >= high and high != low and low == MutableString(low))
+        self.assertEqual(low.compare_code_points(high), -1)
+        self.assertEqual(String("xSTRASSEx").icompare("stra\u00dfe", start=1, length=7), 0)
+        self.assertEqual(String("I").icompare("\u0131", zrstring.IGNORE_CASE_TURKIC), 0)
+        self.assertEqual(String("a").icompare("B", zrstring.COLLATED), -1)
+        self.assertFalse(low < String(low) or low != str(low))
+        self.assertEqual({String("a"): 1}["a"], 1)
+        with self.assertRaises(TypeError):
+            hash(MutableString())
+        text = String("abcab")
+        self.assertEqual((text.find("ab"), text.rfind("ab"), text.last_index_of("b")), (0, 3, 4))
+
+
+def load_tests(loader, tests, pattern):
+    tests.addTests(doctest.DocTestSuite(zrstring))
+    return tests
+
+
+if __name__ == "__main__":
+    HEADER = sys.argv.pop(1)
+    unittest.main(verbosity=2)
