@@ -11,8 +11,7 @@ nm -D --defined-only "$1" | awk '$2 != "A" { print $3 }' | sed 's/@.*//' | sort 
 [ -s "$exported" ] || { echo "no exports were read from $1" >&2; exit 1; }
 
 # The interface's 32-bit integers are int where long is wider.
-long='int'
-nm -D "$1" | head -n 1 | grep -qE '^.{8} ' && long='long'
+case $(readelf -h "$1") in *ELF32*) long='long' ;; *) long='int' ;; esac
 
 compare() {  # WHAT PROMISED ACTUAL
   if ! diff "$2" "$3"; then
@@ -27,7 +26,7 @@ compare "C++ names" "$here/exports-cpp.txt" <(grep '^_Z' "$exported" | c++filt |
   sed -E "s/\<unsigned $long\>/ZRULong/g; s/\<$long\>/ZRLong/g; s/__cxx11:://g" |
   sed -E 's/^std::vector<ZRString\*, std::allocator<ZRString\*> >::.*/std::vector<ZRString*>::*/' |
   sort -u)
-if nm -D "$1" | grep ' u '; then
+if nm -D "$1" | grep ' u ' >&2; then
   echo "unique symbols keep the library in the process after dlclose" >&2
   exit 1
 fi
