@@ -25,7 +25,8 @@ ZRLong ByteCount(const char* text, ZRLong start, ZRLong length) {
 }
 
 /// Gives up a share of a body for a copy of it. Out of line: most edits find their body unshared.
-[[gnu::noinline, gnu::cold]] ZRStringImplementation* ExchangedForCopy(ZRStringImplementation* body) {
+[[gnu::noinline, gnu::cold]] ZRStringImplementation* ExchangedForCopy(
+    ZRStringImplementation* body) {
   auto* const copy = new ZRStringImplementation(body->text);
   body->GiveUpShare();
   return copy;

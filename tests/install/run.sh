@@ -109,6 +109,21 @@ else
 fi
 [ "$(pkg-config --modversion zrstring)" = 1.0.0 ] || fail "the version in zrstring.pc"
 
+say "the programs of the README"
+block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$tests/../../README.md" | sed '1d; $d'; }
+block text >"$work/readme.txt"
+block cpp >"$work/readme.cpp"
+block c >"$work/readme.c"
+# shellcheck disable=SC2046,SC2086 # several options
+if "$CXX" $CXXFLAGS -std=c++17 "$work/readme.cpp" -o "$work/readme-cpp" \
+  $(pkg-config --cflags --libs zrstring) &&
+  "$CC" -std=c99 "$work/readme.c" -o "$work/readme-c" $(pkg-config --cflags --libs zrstring); then
+  run_program "$work/readme-cpp" "$work/readme.txt"
+  run_program "$work/readme-c" "$work/readme.txt"
+else
+  fail "the programs of the README"
+fi
+
 say "the public headers"
 for header in ZRString/ZRTypes.h ZRString/ZRStringHandles.h; do
   compile_alone "$header" "$CC" -std=c99 -pedantic
