@@ -9,15 +9,23 @@
 
 namespace {
 
+/// Set when the collator is gone for good: a host's static object may compare in its destructor.
+std::atomic<bool> released{false};
+
 /// Written once, under `creation`; read without it.
 struct CollatorOwner {
-  ~CollatorOwner() { delete collator.load(std::memory_order_relaxed); }
+  ~CollatorOwner() {
+    released = true;
+    delete collator.load(std::memory_order_relaxed);
+  }
 
   std::mutex creation;
   std::atomic<const icu::Collator*> collator{nullptr};
 };
 
 const icu::Collator* ProcessCollator() {
+  if (released.load(std::memory_order_relaxed))
+    return nullptr;
   // The clean-ups of local statics run in reverse: the locale goes first, then the collator.
   static CollatorOwner owner;
   if (const icu::Collator* existing = owner.collator.load(std::memory_order_acquire))

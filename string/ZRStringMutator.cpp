@@ -1,5 +1,7 @@
 #include <ZRString/ZRStringMutator.h>
 
+#include <algorithm>
+
 #include "string/CodeUnits.h"
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
@@ -185,7 +187,11 @@ ZRStringMutator operator+(unsigned short unit, const ZRString& right) {
 
 unsigned short* ZRStringMutator::GetBuffer(ZRLong minCapacity) {
   CopyOnWrite();
-  return FromIcu(body_->text.getBuffer(minCapacity));
+  // ICU 72 cuts the text to a smaller capacity where it shares the storage with a copy of its own,
+  // as it does after detaching.
+  const ZRLong length = body_->text.length();
+  return FromIcu(
+      body_->text.getBuffer(minCapacity < 0 ? minCapacity : std::max(minCapacity, length)));
 }
 
 void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { body_->text.releaseBuffer(newLength); }

@@ -17,6 +17,7 @@ namespace {
 constexpr int kFresh = 0xA5;  // what memory holds before it is written
 
 int allocations = 0;
+int live = 0;
 int allocationsLeft = -1;  // below 0: without end
 
 /// The number of allocations that a call makes.
@@ -37,15 +38,18 @@ void* operator new(std::size_t size) {
   if (allocationsLeft > 0)
     --allocationsLeft;
   if (void* const memory = std::malloc(size ? size : 1))
-    return std::memset(memory, kFresh, size);
+    return ++live, std::memset(memory, kFresh, size);
   throw std::bad_alloc();
 }
 
 void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept {
+  live -= memory != nullptr;
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete[](void* memory) noexcept { operator delete(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace {
 
@@ -112,6 +116,36 @@ TEST_F(Allocation, ARecordsBufferIsNotTouchedAheadOfItsUnits) {
   array >> strings;
   EXPECT_EQ(array.read, 1000);
   strings.DeleteAll();
+}
+
+TEST_F(Allocation, FailureInTheArrayReaderLeaksNothing) {
+  struct OneUnitStrings : Velmar::IStream {
+    void Write(const ZRLong*) override {}
+    void Write(const ZRULong*) override {}
+    void Write(const unsigned short*) override {}
+    void Read(ZRLong* value) override { *value = 1; }
+    void Read(ZRULong* value) override { *value = 2; }
+    void Read(unsigned short* value) override { *value = 'x'; }
+  } stream;
+  bool thrown = true;
+  int point = 0;
+  for (; thrown; ++point) {
+    const int before = live;
+    {
+      ZRStringPtrArray array;
+      allocationsLeft = point;
+      try {
+        stream >> array;
+        thrown = false;
+      } catch (const std::bad_alloc&) {
+      }
+      allocationsLeft = -1;
+      EXPECT_EQ(array.Size(), thrown ? static_cast<ZRULong>(point / 4) : 2u);
+      array.DeleteAll();
+    }
+    EXPECT_EQ(live, before) << "allocation " << point;
+  }
+  EXPECT_GT(point, 8);  // of each string: buffer, object, body, and the array's growth
 }
 
 TEST_F(Allocation, FailureLeavesEverythingAsItWas) {

@@ -4,7 +4,11 @@
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
 #include <string>
+#include <thread>
 
 #include "Text.h"
 
@@ -13,7 +17,7 @@
 
 namespace {
 
-int creations = 0;
+std::atomic<int> creations{0};
 bool failing = true;
 std::string createdFor;
 
@@ -21,11 +25,20 @@ int Collated(const char16_t* left, const char16_t* right) {
   return Make(left).ICompare(0, -1, Make(right), 0, -1, 3);
 }
 
+/// Made before the process collator, and so destroyed after it.
+struct LastComparison {
+  ~LastComparison() {
+    if (Collated(u"a", u"b") != 0)
+      std::_Exit(1);
+  }
+} lastComparison;
+
 }  // namespace
 
 /// Stands before ICU's own, for the library too, and may fail.
 icu::Collator* icu::Collator::createInstance(const icu::Locale& locale, UErrorCode& status) {
   ++creations;
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));  // so that first uses coincide
   createdFor = locale.getName();
   if (failing) {
     status = U_MEMORY_ALLOCATION_ERROR;
@@ -49,8 +62,10 @@ TEST(ProcessCollator, IsMadeOnceForTheFirstDefaultLocaleAndTriedAgainAfterFailur
   EXPECT_EQ(Collated(u"a", u"b"), 0);
   EXPECT_EQ(creations, 2);
   failing = false;
+  std::thread other([] { EXPECT_EQ(Collated(u"a", u"b"), -1); });
   EXPECT_EQ(Collated(u"\u00E4", u"z"), 1);  // Swedish order
   EXPECT_EQ(Collated(u"a", u"b"), -1);
+  other.join();
   EXPECT_EQ(creations, 3);
   EXPECT_EQ(createdFor, "sv");
 }

@@ -1,5 +1,6 @@
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
+#include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <gtest/gtest.h>
 
@@ -250,6 +251,8 @@ TEST(Handles, ImmutableStrings) {
   ZRStringRef__* c = nullptr;
   EXPECT_EQ(made(ZRStringCreateFromLocalString(bytes, 1, -1, &c), c), u"\u20ACz");
   EXPECT_EQ(made(ZRStringCreateFromCString("x\x80z", 1, 1, &c), c), u"\u20AC");
+  EXPECT_EQ(made(ZRStringCreateFromUniChars(Raw(text), 1, 2, &c), c), u"ba");
+  EXPECT_EQ(made(ZRStringCreateCopyRange(a, 1, 2, &c), c), u"ba");
   ASSERT_EQ(ZRStringCreateCopy(a, &c), 0);
   EXPECT_EQ(BodyOf(GetZRStringFromRef(c)), BodyOf(GetZRStringFromRef(a)));
   EXPECT_EQ(made(0, c), text);
@@ -293,6 +296,16 @@ TEST(Handles, ImmutableStrings) {
   EXPECT_EQ(found(ZRStringRFind(a, 0, 3, b, &n)), 0);
   EXPECT_EQ(found(ZRStringFindUniChars(a, 0, -1, pattern, 1, &n)), 1);
   EXPECT_EQ(found(ZRStringRFindUniChars(a, 0, -1, pattern, 1, &n)), 3);
+  EXPECT_EQ(found(ZRStringFindUniChars(a, 2, -1, pattern, 1, &n)), 3);
+  EXPECT_EQ(found(ZRStringRFindUniChars(a, 0, 2, pattern, 1, &n)), 1);
+  EXPECT_EQ(found(ZRStringRFind(a, 3, -1, b, &n)), -1);
+  const ZRString replacement = Make(u"\uFFFD"), smile = Make(u"\U0001F600");
+  ZRStringRef__* const r = replacement.GetZRStringRef();
+  ZRStringRef__* const p = smile.GetZRStringRef();
+  EXPECT_EQ(found(ZRStringCompare(r, 0, -1, p, 0, -1, &n)), 1);
+  EXPECT_EQ(found(ZRStringCompareCodePointOrder(r, 0, -1, p, 0, -1, &n)), -1);
+  EXPECT_EQ(found(ZRStringICompare(r, 0, -1, p, 0, -1, 0, &n)), 1);
+  EXPECT_EQ(found(ZRStringICompare(r, 0, -1, p, 0, -1, 2, &n)), -1);
   EXPECT_EQ(found(ZRStringFindUniChars(a, 0, -1, pattern, 0, &n)), -1);
   EXPECT_EQ(found(ZRStringFindUniChars(a, 0, -1, nullptr, 1, &n)), -1);
   EXPECT_EQ(found(ZRStringRFindUniChars(a, 0, -1, nullptr, 1, &n)), -1);
@@ -329,9 +342,41 @@ TEST(Handles, ImmutableStrings) {
   EXPECT_EQ(ZRStringDestroy(b), 0);
 }
 
+namespace {
+
+/// A host's own string, which the virtual operations reach.
+struct Overriding : ZRString {
+  Overriding() : ZRString(Make(u"abc")) {}
+  const unsigned short* GetBuffer() const override { return Raw(u"xyz"); }
+  void Extract(ZRLong, ZRLong, unsigned short* dst, ZRLong dstStart) const override {
+    dst[dstStart] = 'E';
+    dst[dstStart + 1] = 0;
+  }
+};
+
+}  // namespace
+
+TEST(Handles, VirtualOperationsReachTheObjectsOwn) {
+  const Overriding string;
+  unsigned short* buffer = nullptr;
+  EXPECT_EQ(ZRStringGetBuffer(string.GetZRStringRef(), &buffer), 0);
+  EXPECT_EQ(buffer[0], 'x');
+  unsigned short units[4] = {};
+  EXPECT_EQ(ZRStringGetUniCharsAt(string.GetZRStringRef(), 0, 2, units), 0);
+  EXPECT_EQ(units[0], 'E');
+  EXPECT_EQ(ZRStringExtractIntoUniChars(string.GetZRStringRef(), 0, 2, units, 1), 0);
+  EXPECT_EQ(units[1], 'E');
+  std::basic_ostringstream<unsigned short> stream;
+  stream << string;
+  EXPECT_EQ(stream.str()[0], 'E');
+}
+
 TEST(Handles, MutableStrings) {
   const ZRString source = Make(u"abc");
   ZRStringRef__* const s = source.GetZRStringRef();
+  const ZRString foundString = Make(u"b"), replacementString = Make(u"x");
+  ZRStringRef__* const b = foundString.GetZRStringRef();
+  ZRStringRef__* const x = replacementString.GetZRStringRef();
   const std::u16string chars = u"xyz";
   const auto bytes = reinterpret_cast<const unsigned char*>("x\x80z");
   using M = ZRMutableStringRef__*;
@@ -346,6 +391,7 @@ TEST(Handles, MutableStrings) {
       {"set unit past the end", [&](M m) { return ZRMutableStringSetUniCharAt(m, 9, 'Z'); },
        u"abZ"},
       {"set", [&](M m) { return ZRMutableStringSetToZRString(m, s, 1, -1); }, u"bc"},
+      {"set range", [&](M m) { return ZRMutableStringSetToZRString(m, s, 0, 2); }, u"ab"},
       {"append", [&](M m) { return ZRMutableStringAppend(m, s); }, u"abcabc"},
       {"append chars", [&](M m) { return ZRMutableStringAppendUniChars(m, Raw(chars), 1, 1); },
        u"abcy"},
@@ -364,6 +410,11 @@ TEST(Handles, MutableStrings) {
        [&](M m) { return ZRMutableStringReplaceWithUniChars(m, 1, -1, Raw(chars), 0, 1); }, u"ax"},
       {"find and replace", [&](M m) { return ZRMutableStringFindAndReplace(m, 0, -1, s, s); },
        u"abc"},
+      {"find and replace b", [&](M m) { return ZRMutableStringFindAndReplace(m, 1, 1, b, x); },
+       u"axc"},
+      {"find past b", [&](M m) { return ZRMutableStringFindAndReplace(m, 2, -1, b, x); }, u"abc"},
+      {"find before b", [&](M m) { return ZRMutableStringFindAndReplace(m, 0, 1, b, x); }, u"abc"},
+      {"reverse range", [&](M m) { return ZRMutableStringReverse(m, 0, 2); }, u"bac"},
       {"remove", [&](M m) { return ZRMutableStringRemoveBetween(m, 0, 0); }, u"bc"},
       {"remove the rest", [&](M m) { return ZRMutableStringRemoveBetween(m, 1, -1); }, u"a"},
       {"remove to the greatest index",
@@ -394,11 +445,11 @@ TEST(Handles, MutableStrings) {
       {"sum",
        [&](M m) {
          const ZRLong status =
-             ZRMutableStringAddStrings(s, s, &made) +
+             ZRMutableStringAddStrings(x, s, &made) +
              ZRMutableStringSetToZRString(m, Mutable::ZRStringRefConst(made), 0, -1);
          return status + ZRMutableStringDestroy(made);
        },
-       u"abcabc"},
+       u"xabc"},
       {"empty",
        [&](M m) {
          const ZRLong status =
@@ -432,6 +483,7 @@ TEST(Handles, MutableStrings) {
   EXPECT_EQ(text(ZRMutableStringCreateFromLocalString(bytes, 1, 2, &made)), u"\u20ACz");
   EXPECT_EQ(text(ZRMutableStringCreateFromCString("x\x80z", 1, 1, &made)), u"\u20AC");
   EXPECT_EQ(text(ZRMutableStringCreateCopyRange(s, 1, -1, &made)), u"bc");
+  EXPECT_EQ(text(ZRMutableStringCreateCopyRange(s, 1, 1, &made)), u"b");
   ZRStringMutator mutator(source);
   ZRLong index = 9;
   EXPECT_EQ(ZRMutableStringLastIndexOf(mutator.GetZRMutableStringRef(), 'b', &index), 0);

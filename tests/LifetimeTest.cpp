@@ -1,7 +1,10 @@
+#include <Velmar/IStream.h>
 #include <ZRString/ZRString.h>
 #include <ZRString/ZRStringMutator.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstring>
 #include <vector>
 
 #include "Text.h"
@@ -112,6 +115,33 @@ TEST(Lifetime, AssignmentMovesOneShare) {
   target = ZRStringMutator(source);
   EXPECT_EQ(Holders(source), 2);
   EXPECT_EQ(TextOf(old), u"old");
+  ZRStringMutator alone(Make(u"alone"));
+  const ZRString& same = alone;
+  alone = same;
+  EXPECT_EQ(Holders(alone), 1);
+  EXPECT_EQ(TextOf(alone), u"alone");
+}
+
+namespace {
+
+/// The slot of a virtual member function, as the C++ ABI of GCC and Clang keeps it in a pointer.
+template <typename Pointer>
+std::ptrdiff_t Slot(Pointer member) {
+  std::ptrdiff_t value;
+  std::memcpy(&value, &member, sizeof value);
+  return (value - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
+
+}  // namespace
+
+TEST(Lifetime, VirtualOperationsKeepTheirSlots) {
+  // The destructor has the first two there.
+  EXPECT_EQ(Slot(&ZRString::GetBuffer), 2);
+  EXPECT_EQ(Slot(&ZRString::Extract), 3);
+  EXPECT_EQ(Slot(&ZRString::ExtractBetween), 4);
+  EXPECT_EQ(Slot<unsigned short* (ZRStringMutator::*)(ZRLong)>(&ZRStringMutator::GetBuffer), 5);
+  EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Write), 2);
+  EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Read), 3);
 }
 
 TEST(Lifetime, HandlesAreAddresses) {

@@ -127,6 +127,19 @@ const Edit kEdits[] = {
     {"FindAndReplace start past the raw old",
      [](M& m, const S& s) { m.FindAndReplace(0, -1, Raw(u"a"), 2, -1, s, 0, -1); },
      [](const Text& t, const Text&) { return t; }},
+    {"FindAndReplace by another part",
+     [](M& m, const S& s) { m.FindAndReplace(0, -1, s, 0, 1, s, 1, 2); },
+     [](const Text& t, const Text& o) { return AllReplaced(t, o.substr(0, 1), o.substr(1, 2)); }},
+    {"FindAndReplace of a part",
+     [](M& m, const S& s) { m.FindAndReplace(0, -1, s, 0, 1, Make(kRaw), 0, -1); },
+     [](const Text& t, const Text& o) { return AllReplaced(t, o.substr(0, 1), kRaw); }},
+    {"FindAndReplace by a part",
+     [](M& m, const S& s) { m.FindAndReplace(0, -1, Make(u"a"), 0, 1, s, 1, 2); },
+     [](const Text& t, const Text& o) { return AllReplaced(t, u"a", o.substr(1, 2)); }},
+    {"FindAndReplace raw by a part",
+     [](M& m, const S& s) { m.FindAndReplace(0, -1, Raw(u"a"), 0, 1, s, 1, 2); },
+     [](const Text& t, const Text& o) { return AllReplaced(t, u"a", o.substr(1, 2)); }},
+    {"ToLower", [](M& m, const S&) { m.ToLower(); }, [](const Text& t, const Text&) { return t; }},
     {"FindAndReplace nothing", [](M& m, const S& s) { m.FindAndReplace(0, -1, s, 0, 0, s, 0, -1); },
      [](const Text& t, const Text&) { return t; }},
     {"PadLeading", [](M& m, const S&) { EXPECT_EQ(m.PadLeading(40, '*'), 1); },
@@ -164,6 +177,13 @@ const Edit kEdits[] = {
      [](const Text& t, const Text&) { return t + t.substr(1, 2); }},
     {"Insert own units", [](M& m, const S&) { m.Insert(1, m.GetBuffer(), 0, m.GetLength()); },
      [](const Text& t, const Text&) { return Spliced(t, 1, 0, t); }},
+    {"the buffer, asked for less than the text",
+     [](M& m, const S&) {
+       const ZRLong length = m.GetLength();
+       m.GetBuffer(0);
+       m.ReleaseBuffer(length);
+     },
+     [](const Text& t, const Text&) { return t; }},
     {"the buffer",
      [](M& m, const S&) {
        const ZRLong length = m.GetLength();

@@ -51,6 +51,8 @@ TEST(Normalize, Modes) {
       {u"\uFB01", kZRNormalizationNFKC, 1, u"fi"},
       {u"\uFB01", kZRNormalizationNFC, 0, u"\uFB01"},
       {u"e\u0301", kZRNormalizationFCD, 0, u"e\u0301"},
+      {u"\u00E9", kZRNormalizationFCD, 0, u"\u00E9"},
+      {u"x\u0301", kZRNormalizationNFC, 1, u"x\u0301"},
       {u"e\u0301\u0316", kZRNormalizationFCD, 1, u"e\u0316\u0301"},
       {u"e\u0301", 0, 0, u"e\u0301"},
       {u"e\u0301", 1, 0, u"e\u0301"},

@@ -77,6 +77,7 @@ TEST(Output, NeedsNoLocale) {
   std::locale::global(before);
   EXPECT_TRUE(stream.good());
   EXPECT_EQ(Written(stream), u"  a\n");
+  EXPECT_EQ(stream.widen('\xE9'), 0xE9);
 }
 
 TEST(Output, FailuresStandInTheState) {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <new>
 #include <stdexcept>
+#include <typeinfo>
 #include <vector>
 
 #include "Text.h"
@@ -30,13 +31,17 @@ class Recorder : public Velmar::IStream {
 
   void Write(const ZRLong* value) override { Put({'l', *value}); }
   void Write(const ZRULong* value) override { Put({'u', *value}); }
-  void Write(const unsigned short* value) override { Put({'s', *value}); }
+  void Write(const unsigned short* value) override {
+    Put({'s', *value});
+    addresses.push_back(value);
+  }
   void Read(ZRLong* value) override { Get('l', value); }
   void Read(ZRULong* value) override { Get('u', value); }
   void Read(unsigned short* value) override { Get('s', value); }
 
   Calls input;
   Calls output;
+  std::vector<const unsigned short*> addresses;  // of the units written
   std::size_t consumed = 0;
   std::size_t throwAt = SIZE_MAX;
 
@@ -93,6 +98,8 @@ TEST(Stream, WritesExactlyTheseCalls) {
       Recorder stream;
       EXPECT_EQ(&(stream << *each), &stream);
       EXPECT_EQ(stream.output, row.calls);
+      for (std::size_t i = 0; i < stream.addresses.size(); ++i)
+        EXPECT_EQ(stream.addresses[i], each->GetBuffer() + i);
       Recorder other;
       EXPECT_EQ(&(*each >> other), &other);
       EXPECT_EQ(other.output, row.calls);
@@ -163,6 +170,8 @@ TEST(Stream, AppendsToAnArray) {
     std::vector<std::u16string> expected = {u"old"};
     expected.insert(expected.end(), row.appended.begin(), row.appended.end());
     EXPECT_EQ(Texts(array), expected);
+    for (auto entry = array.Begin(); entry != array.End(); ++entry)
+      EXPECT_EQ(typeid(**entry), typeid(ZRString));
   }
   OwningArray array;
   Recorder damaged({{'u', 3}, {'l', 1}, {'s', 'x'}, {'l', -1}, {'s', 'y'}});

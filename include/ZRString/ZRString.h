@@ -123,7 +123,8 @@ class ZR_API ZRString {
   ///
   /// The collator is made by the first comparison that needs it and kept until the library is
   /// unloaded; a later change of the default locale does not reach it. If none can be made, the
-  /// result is 0 and the next call tries again. Option 3 may be used by several threads at once.
+  /// result is 0 and the next call tries again. Option 3 may be used by several threads at once;
+  /// after the library's own clean-up at the process's end its result is 0.
   signed char ICompare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                        ZRLong srcLength, ZRULong options) const;
 
@@ -183,7 +184,8 @@ class ZR_API ZRString {
   /// The units, not necessarily followed by a zero unit; take their number from GetLength().
   ///
   /// Valid while this string holds the same body and no holder of that body changes it or asks
-  /// for its terminated buffer. Null while a writable buffer is open on the body.
+  /// for its terminated buffer. Null while a writable buffer is open on the body, and in ICU's
+  /// error state, which ZRStringMutator describes.
   virtual const unsigned short* GetBuffer() const;
 
   /// Copies a range to `dst[dstStart]` onwards and puts a zero unit after it.

@@ -13,7 +13,8 @@
 /// 2. **Status.** Every function tests its parameters and returns 0, or the status of the first
 ///    invalid one: 3 + its position, counted from 1. The array functions return
 ///    #kZRStatusIndexOutside besides. After a status other than 0 nothing has happened and no
-///    out-parameter has been written.
+///    out-parameter has been written. A function whose comment names no member calls the
+///    constructor or the member of its own name.
 /// 3. **Units and ranges.** Starts, lengths, indices and positions count UTF-16 code units. A start
 ///    is never negative here. A length is -1, where the function says so, for "to the end", and
 ///    otherwise not negative. Ranges past the end of a string are cut there and are no error.
@@ -158,7 +159,7 @@ ZR_API ZRLong ZRStringIsEmpty(ZRStringRef__* string, unsigned char* isEmpty);
 
 /// The string's own units, to be read only, as many as ZRStringGetLength() says.
 ///
-/// Calls ZRString::GetBuffer, which tells how long the pointer is valid.
+/// Calls ZRString::GetBuffer, which tells how long the pointer is valid and when it is null.
 /// @return 0; 4 string is null; 5 buffer is null.
 ZR_API ZRLong ZRStringGetBuffer(ZRStringRef__* string, unsigned short** buffer);
 

@@ -29,9 +29,10 @@ enum ZRStringNormalizationMode : int {
 ///
 /// **Errors.** The library's own allocation, the body that detaching makes, throws `std::bad_alloc`
 /// and leaves this string and every operand as they were. When ICU itself runs out of memory inside
-/// an edit, or a text would grow past what ICU can hold, the text is in ICU's error state: it reads
-/// as empty and ignores edits until SetTo() gives it a new text, Truncate(0) makes it an empty one
-/// or another string is assigned.
+/// an edit, or a text would grow past what ICU can hold, the text is lost and in ICU's error state:
+/// its length is 0, it equals no other text, its buffer is null, and it ignores edits until SetTo()
+/// gives it a new text, Truncate(0) or Remove(0, INT32_MAX) makes it an empty one, or another
+/// string is assigned.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
 /// edits; use the string for nothing else meanwhile.
@@ -129,7 +130,9 @@ class ZR_API ZRStringMutator : public ZRString {
   unsigned char Normalize(ZRStringNormalizationMode mode);
 
   /// Fills up to `targetLength` units with `padUnit` at the front.
-  /// @return 1 when the string was shorter, else 0.
+  /// @return 1 when the string was shorter, else 0; 0 also when ICU cannot hold that many units,
+  /// and
+  ///         the text is then in ICU's error state.
   unsigned char PadLeading(ZRLong targetLength, unsigned short padUnit);
 
   /// The same at the end.
@@ -167,7 +170,8 @@ class ZR_API ZRStringMutator : public ZRString {
   /// Detaches and opens the text's own storage for writing, with room for at least `minCapacity`
   /// units (-1: its current capacity). The previous units are still in it.
   ///
-  /// Null when a buffer is open already, when `minCapacity` is below -1, or when ICU has no memory.
+  /// Null, with nothing changed, when a buffer is open already or `minCapacity` is below -1; null,
+  /// with the text in ICU's error state, when ICU has no memory.
   /// Valid until ReleaseBuffer(). Do not copy the string while the buffer is open: the copy shares
   /// the body and sees what is written, and a second call here would detach from it and leave the
   /// copy with an open buffer that nobody can close.

@@ -16,7 +16,8 @@
 ///
 /// Insertion is that of a null-terminated character string: the text ends at its first zero unit,
 /// width and fill apply, the width is reset to 0, and failures are found in the stream's state.
-/// `std::bad_alloc` may be thrown before anything is written.
+/// `std::bad_alloc` may be thrown before anything is written. Numbers still cannot be inserted:
+/// standard libraries have no facet that formats them for this type.
 
 /// Widens an ASCII character, as a fill or as a line's end, to a code unit.
 ///
