@@ -170,8 +170,10 @@ TEST(Stream, AppendsToAnArray) {
     std::vector<std::u16string> expected = {u"old"};
     expected.insert(expected.end(), row.appended.begin(), row.appended.end());
     EXPECT_EQ(Texts(array), expected);
-    for (auto entry = array.Begin(); entry != array.End(); ++entry)
-      EXPECT_EQ(typeid(**entry), typeid(ZRString));
+    for (auto entry = array.Begin(); entry != array.End(); ++entry) {
+      const ZRString& string = **entry;
+      EXPECT_EQ(typeid(string), typeid(ZRString));
+    }
   }
   OwningArray array;
   Recorder damaged({{'u', 3}, {'l', 1}, {'s', 'x'}, {'l', -1}, {'s', 'y'}});
