@@ -104,10 +104,6 @@ class Statuses : public testing::Test {
   static Parameter<Type> Pointer(Type valid, ZRLong status = 0) {
     return {valid, {nullptr}, status};
   }
-  static Parameter<ZRLong> Start() { return {0, {-1, INT_MIN}}; }
-  static Parameter<ZRLong> LengthOrToEnd() { return {-1, {-2, INT_MIN}}; }
-  static Parameter<ZRLong> Length() { return {1, {-1, -2, INT_MIN}}; }
-  static Parameter<unsigned short> Unit() { return {'a', {}}; }
 
   Outputs out;
   Outputs untouched;
@@ -122,109 +118,98 @@ class Statuses : public testing::Test {
 #define ZR_BOTH(family, name) #name, &::name, &family::name
 
 TEST_F(Statuses, TheFirstInvalidParameterCountsAndNothingIsWritten) {
-  const auto s = [&] { return Pointer(string.GetZRStringRef()); };
-  const auto m = [&] { return Pointer(mutableString.GetZRMutableStringRef()); };
-  const auto a = [&] { return Pointer(array.GetZRStringPtrArrayRef()); };
-  const auto chars = [&] { return Pointer<const unsigned short*>(string.GetBuffer()); };
-  const auto text = [&] { return Pointer("abc"); };
-  const auto bytes = [&] { return Pointer(reinterpret_cast<const unsigned char*>("abc")); };
-  const auto number = [&] { return Pointer(&out.number); };
-  const auto flag = [&] { return Pointer(&out.flag); };
-  const auto newString = [&] { return Pointer(&out.string); };
-  const auto newMutable = [&] { return Pointer(&out.mutableString); };
-  const auto newArray = [&] { return Pointer(&out.array); };
-  const auto units = [&] { return Pointer<unsigned short*>(out.units); };
+  const auto s = Pointer(string.GetZRStringRef());
+  const auto m = Pointer(mutableString.GetZRMutableStringRef());
+  const auto a = Pointer(array.GetZRStringPtrArrayRef());
+  const auto chars = Pointer<const unsigned short*>(string.GetBuffer());
+  const auto text = Pointer("abc");
+  const auto bytes = Pointer(reinterpret_cast<const unsigned char*>("abc"));
+  const auto number = Pointer(&out.number);
+  const auto flag = Pointer(&out.flag);
+  const auto newS = Pointer(&out.string);
+  const auto newM = Pointer(&out.mutableString);
+  const auto newA = Pointer(&out.array);
+  const auto units = Pointer<unsigned short*>(out.units);
+  const Parameter<ZRLong> start{0, {-1, INT_MIN}};
+  const Parameter<ZRLong> toEnd{-1, {-2, INT_MIN}};
+  const Parameter<ZRLong> length{1, {-1, -2, INT_MIN}};
+  const Parameter<unsigned short> unit{'a', {}};
   const Parameter<unsigned short*> pattern{out.units, {}};
   const Parameter<ZRLong> anyIndex{0, {}};
   const Parameter<ZRULong> options{0, {}};
 
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromUniChars), chars(), Start(), LengthOrToEnd(),
-        newString());
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromLocalString), bytes(), Start(), LengthOrToEnd(),
-        newString());
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromCString), text(), Start(), Length(), newString());
-  Check(ZR_BOTH(Immutable, ZRStringCreateCopy), s(), newString());
-  Check(ZR_BOTH(Immutable, ZRStringCreateCopyRange), s(), Start(), LengthOrToEnd(), newString());
-  Check(ZR_BOTH(Immutable, ZRStringDestroy), s());
-  Check(ZR_BOTH(Immutable, ZRStringCompare), s(), Start(), LengthOrToEnd(), s(), Start(),
-        LengthOrToEnd(), number());
-  Check(ZR_BOTH(Immutable, ZRStringCompareCodePointOrder), s(), Start(), LengthOrToEnd(), s(),
-        Start(), LengthOrToEnd(), number());
-  Check(ZR_BOTH(Immutable, ZRStringICompare), s(), Start(), LengthOrToEnd(), s(), Start(),
-        LengthOrToEnd(), options, number());
-  Check(ZR_BOTH(Immutable, ZRStringFind), s(), Start(), LengthOrToEnd(), s(), number());
-  Check(ZR_BOTH(Immutable, ZRStringFindUniChars), s(), Start(), LengthOrToEnd(), pattern, Length(),
-        number());
-  Check(ZR_BOTH(Immutable, ZRStringRFind), s(), Start(), LengthOrToEnd(), s(), number());
-  Check(ZR_BOTH(Immutable, ZRStringRFindUniChars), s(), Start(), LengthOrToEnd(), pattern, Length(),
-        number());
-  Check(ZR_BOTH(Immutable, ZRStringGetUniCharsAt), s(), anyIndex, {1, {0, -1, INT_MIN}}, units());
-  Check(ZR_BOTH(Immutable, ZRStringExtractIntoUniChars), s(), Start(), LengthOrToEnd(), units(),
-        Start());
-  Check(ZR_BOTH(Immutable, ZRStringGetLength), s(), number());
-  Check(ZR_BOTH(Immutable, ZRStringIsEmpty), s(), flag());
-  Check(ZR_BOTH(Immutable, ZRStringGetBuffer), s(), Pointer(&out.buffer));
-  Check(ZR_BOTH(Immutable, ZRStringLastIndexOf), s(), Unit(), number());
+  Check(ZR_BOTH(Immutable, ZRStringCreateFromUniChars), chars, start, toEnd, newS);
+  Check(ZR_BOTH(Immutable, ZRStringCreateFromLocalString), bytes, start, toEnd, newS);
+  Check(ZR_BOTH(Immutable, ZRStringCreateFromCString), text, start, length, newS);
+  Check(ZR_BOTH(Immutable, ZRStringCreateCopy), s, newS);
+  Check(ZR_BOTH(Immutable, ZRStringCreateCopyRange), s, start, toEnd, newS);
+  Check(ZR_BOTH(Immutable, ZRStringDestroy), s);
+  Check(ZR_BOTH(Immutable, ZRStringCompare), s, start, toEnd, s, start, toEnd, number);
+  Check(ZR_BOTH(Immutable, ZRStringCompareCodePointOrder), s, start, toEnd, s, start, toEnd,
+        number);
+  Check(ZR_BOTH(Immutable, ZRStringICompare), s, start, toEnd, s, start, toEnd, options, number);
+  Check(ZR_BOTH(Immutable, ZRStringFind), s, start, toEnd, s, number);
+  Check(ZR_BOTH(Immutable, ZRStringFindUniChars), s, start, toEnd, pattern, length, number);
+  Check(ZR_BOTH(Immutable, ZRStringRFind), s, start, toEnd, s, number);
+  Check(ZR_BOTH(Immutable, ZRStringRFindUniChars), s, start, toEnd, pattern, length, number);
+  Check(ZR_BOTH(Immutable, ZRStringGetUniCharsAt), s, anyIndex, {1, {0, -1, INT_MIN}}, units);
+  Check(ZR_BOTH(Immutable, ZRStringExtractIntoUniChars), s, start, toEnd, units, start);
+  Check(ZR_BOTH(Immutable, ZRStringGetLength), s, number);
+  Check(ZR_BOTH(Immutable, ZRStringIsEmpty), s, flag);
+  Check(ZR_BOTH(Immutable, ZRStringGetBuffer), s, Pointer(&out.buffer));
+  Check(ZR_BOTH(Immutable, ZRStringLastIndexOf), s, unit, number);
 
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateEmpty), newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromUniChars), chars(), Start(), Length(),
-        newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopy), s(), newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopyRange), s(), Start(), LengthOrToEnd(),
-        newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromLocalString), bytes(), Start(), Length(),
-        newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromCString), text(), Start(), Length(),
-        newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringDestroy), m());
-  Check(ZR_BOTH(Mutable, ZRMutableStringSetUniCharAt), m(), Start(), Unit());
-  Check(ZR_BOTH(Mutable, ZRMutableStringSetToZRString), m(), s(), Start(), LengthOrToEnd());
-  Check(ZR_BOTH(Mutable, ZRMutableStringAppend), m(), s());
-  Check(ZR_BOTH(Mutable, ZRMutableStringAppendUniChars), m(), chars(), Start(), Length());
-  Check(ZR_BOTH(Mutable, ZRMutableStringInsert), m(), Start(), s(), Start(), LengthOrToEnd());
-  Check(ZR_BOTH(Mutable, ZRMutableStringInsertUniChars), m(), Start(), chars(), Start(), Length());
-  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceBetween), m(), Start(), LengthOrToEnd(), s());
-  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceWithUniChars), m(), Start(), LengthOrToEnd(),
-        chars(), Start(), Length());
-  Check(ZR_BOTH(Mutable, ZRMutableStringFindAndReplace), m(), Start(), LengthOrToEnd(), s(), s());
-  Check(ZR_BOTH(Mutable, ZRMutableStringRemoveBetween), m(), Start(), LengthOrToEnd());
-  Check(ZR_BOTH(Mutable, ZRMutableStringPadLeading), m(), Start(), Unit(), flag());
-  Check(ZR_BOTH(Mutable, ZRMutableStringPadTrailing), m(), Start(), Unit(), flag());
-  Check(ZR_BOTH(Mutable, ZRMutableStringTruncate), m(), Start(), flag());
-  Check(ZR_BOTH(Mutable, ZRMutableStringTrim), m());
-  Check(ZR_BOTH(Mutable, ZRMutableStringToUpper), m());
-  Check(ZR_BOTH(Mutable, ZRMutableStringToLower), m());
-  Check(ZR_BOTH(Mutable, ZRMutableStringGetBufferWithCapacity), m(), LengthOrToEnd(),
-        Pointer(&out.buffer));
-  Check(ZR_BOTH(Mutable, ZRMutableStringGetCapacity), m(), number());
-  Check(ZR_BOTH(Mutable, ZRMutableStringReleaseBuffer), m(), LengthOrToEnd());
-  Check(ZR_BOTH(Mutable, ZRMutableStringReverse), m(), Start(), LengthOrToEnd());
-  Check(ZR_BOTH(Mutable, ZRMutableStringAddStrings), s(), s(), newMutable());
-  Check(ZR_BOTH(Mutable, ZRMutableStringLastIndexOf), m(), Unit(), number());
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateEmpty), newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromUniChars), chars, start, length, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopy), s, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopyRange), s, start, toEnd, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromLocalString), bytes, start, length, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromCString), text, start, length, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringDestroy), m);
+  Check(ZR_BOTH(Mutable, ZRMutableStringSetUniCharAt), m, start, unit);
+  Check(ZR_BOTH(Mutable, ZRMutableStringSetToZRString), m, s, start, toEnd);
+  Check(ZR_BOTH(Mutable, ZRMutableStringAppend), m, s);
+  Check(ZR_BOTH(Mutable, ZRMutableStringAppendUniChars), m, chars, start, length);
+  Check(ZR_BOTH(Mutable, ZRMutableStringInsert), m, start, s, start, toEnd);
+  Check(ZR_BOTH(Mutable, ZRMutableStringInsertUniChars), m, start, chars, start, length);
+  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceBetween), m, start, toEnd, s);
+  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceWithUniChars), m, start, toEnd, chars, start,
+        length);
+  Check(ZR_BOTH(Mutable, ZRMutableStringFindAndReplace), m, start, toEnd, s, s);
+  Check(ZR_BOTH(Mutable, ZRMutableStringRemoveBetween), m, start, toEnd);
+  Check(ZR_BOTH(Mutable, ZRMutableStringPadLeading), m, start, unit, flag);
+  Check(ZR_BOTH(Mutable, ZRMutableStringPadTrailing), m, start, unit, flag);
+  Check(ZR_BOTH(Mutable, ZRMutableStringTruncate), m, start, flag);
+  Check(ZR_BOTH(Mutable, ZRMutableStringTrim), m);
+  Check(ZR_BOTH(Mutable, ZRMutableStringToUpper), m);
+  Check(ZR_BOTH(Mutable, ZRMutableStringToLower), m);
+  Check(ZR_BOTH(Mutable, ZRMutableStringGetBufferWithCapacity), m, toEnd, Pointer(&out.buffer));
+  Check(ZR_BOTH(Mutable, ZRMutableStringGetCapacity), m, number);
+  Check(ZR_BOTH(Mutable, ZRMutableStringReleaseBuffer), m, toEnd);
+  Check(ZR_BOTH(Mutable, ZRMutableStringReverse), m, start, toEnd);
+  Check(ZR_BOTH(Mutable, ZRMutableStringAddStrings), s, s, newM);
+  Check(ZR_BOTH(Mutable, ZRMutableStringLastIndexOf), m, unit, number);
 
-  Check("ZRStringPtrArrayCreate", &::ZRStringPtrArrayCreate, &Array::ZRSPtrArrayCreate, newArray());
+  Check("ZRStringPtrArrayCreate", &::ZRStringPtrArrayCreate, &Array::ZRSPtrArrayCreate, newA);
   Check("ZRStrPtrArrCreateFromZRStrPtrArr", &::ZRStrPtrArrCreateFromZRStrPtrArr,
-        &Array::ZRSPtrArrayCreateFromZRSPtrArray, a(), newArray());
-  Check("ZRStringPtrArrayDestroy", &::ZRStringPtrArrayDestroy, &Array::ZRSPtrArrayDestroy, a());
-  Check("ZRStringPtrArraySize", &::ZRStringPtrArraySize, &Array::ZRSPtrArraySize, a(),
+        &Array::ZRSPtrArrayCreateFromZRSPtrArray, a, newA);
+  Check("ZRStringPtrArrayDestroy", &::ZRStringPtrArrayDestroy, &Array::ZRSPtrArrayDestroy, a);
+  Check("ZRStringPtrArraySize", &::ZRStringPtrArraySize, &Array::ZRSPtrArraySize, a,
         Pointer(&out.size));
-  Check("ZRStringPtrArrayIsEmpty", &::ZRStringPtrArrayIsEmpty, &Array::ZRSPtrArrayIsEmpty, a(),
-        flag());
-  Check("GetZRStringRefAt", &::GetZRStringRefAt, &Array::ZRSPtrArrayGetZRStringRefAt, a(), anyIndex,
-        newString());
-  Check("SetZRStringRefAt", &::SetZRStringRefAt, &Array::ZRSPtrArraySetZRStringRefAt, a(), anyIndex,
-        s());
+  Check("ZRStringPtrArrayIsEmpty", &::ZRStringPtrArrayIsEmpty, &Array::ZRSPtrArrayIsEmpty, a, flag);
+  Check("GetZRStringRefAt", &::GetZRStringRefAt, &Array::ZRSPtrArrayGetZRStringRefAt, a, anyIndex,
+        newS);
+  Check("SetZRStringRefAt", &::SetZRStringRefAt, &Array::ZRSPtrArraySetZRStringRefAt, a, anyIndex,
+        s);
   names.insert("InsertZRStringRefAt");
-  CheckOne("InsertZRStringRefAt", &::InsertZRStringRefAt, a(), anyIndex,
+  CheckOne("InsertZRStringRefAt", &::InsertZRStringRefAt, a, anyIndex,
            Pointer(string.GetZRStringRef(), 5));
-  CheckOne("its member", &Array::ZRSPtrArrayInsertZRStringRefAt, a(), anyIndex, s());
-  Check("ZRStringPtrArrayPushBack", &::ZRStringPtrArrayPushBack, &Array::ZRSPtrArrayPushBack, a(),
-        s());
-  Check("ZRStringPtrArrayErase", &::ZRStringPtrArrayErase, &Array::ZRSPtrArrayErase, a(),
+  CheckOne("its member", &Array::ZRSPtrArrayInsertZRStringRefAt, a, anyIndex, s);
+  Check("ZRStringPtrArrayPushBack", &::ZRStringPtrArrayPushBack, &Array::ZRSPtrArrayPushBack, a, s);
+  Check("ZRStringPtrArrayErase", &::ZRStringPtrArrayErase, &Array::ZRSPtrArrayErase, a,
         {1, {-1, 1, INT_MIN, INT_MAX}, 12});
-  Check("ZRStringPtrArrayEraseAll", &::ZRStringPtrArrayEraseAll, &Array::ZRSPtrArrayEraseAll, a());
-  Check("ZRStringPtrArrayDeleteAll", &::ZRStringPtrArrayDeleteAll, &Array::ZRSPtrArrayDeleteAll,
-        a());
+  Check("ZRStringPtrArrayEraseAll", &::ZRStringPtrArrayEraseAll, &Array::ZRSPtrArrayEraseAll, a);
+  Check("ZRStringPtrArrayDeleteAll", &::ZRStringPtrArrayDeleteAll, &Array::ZRSPtrArrayDeleteAll, a);
 
   std::ifstream list(ZRSTRING_PLAIN_EXPORTS);
   const std::set<std::string> exported{std::istream_iterator<std::string>(list), {}};
