@@ -14,6 +14,7 @@ unset DESTDIR PKG_CONFIG_PATH LD_LIBRARY_PATH CPATH LIBRARY_PATH
 tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 work=$BUILD/tests/install/work
 prefix=$work/moved
+top=$(cd "$tests/../.." && pwd -P)
 failures=0
 
 say() { printf '%s\n' "-- $*"; }
@@ -70,6 +71,10 @@ compile_alone() {
 
 rm -rf "$work"
 mkdir -p "$work"
+# What the first program prints stands on the page that shows it.
+# shellcheck disable=SC2016 # the marks of a code block, not commands
+sed -n '/{#output}/,/{#rules}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' >"$work/road.txt"
+[ -s "$work/road.txt" ] || fail "docs/index.md has no output"
 
 say "the installed files"
 install_into "$work/runtime" --component Runtime
@@ -89,7 +94,7 @@ if "$CMAKE" -S "$tests/cpp" -B "$work/cpp" -DCMAKE_PREFIX_PATH="$prefix" \
   "$CMAKE" --build "$work/cpp" >>"$work/cpp.log" 2>&1; then
   grep -q "^ZRString_DIR:.*=$prefix/" "$work/cpp/CMakeCache.txt" ||
     fail "another ZRString was found than the installed one"
-  run_program "$work/cpp/notebook" "$tests/cpp/notebook.txt"
+  run_program "$work/cpp/road" "$work/road.txt"
   for standard in 17 20 23; do
     run_program "$work/cpp/vector$standard" "$tests/cpp/vector.txt"
   done
@@ -101,8 +106,8 @@ fi
 say "a C project, through pkg-config"
 export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
 cp -r "$tests/c" "$work/c"
-if make -C "$work/c" CC="$CC" >"$work/c.log" 2>&1; then
-  run_program "$work/c/addresses" "$tests/c/addresses.txt"
+if make -C "$work/c" CC="$CC" SNIPPETS="$top/docs/snippets" >"$work/c.log" 2>&1; then
+  run_program "$work/c/road" "$work/road.txt"
 else
   cat "$work/c.log"
   fail "the C project"
@@ -110,7 +115,7 @@ fi
 [ "$(pkg-config --modversion zrstring)" = 1.0.0 ] || fail "the version in zrstring.pc"
 
 say "the programs of the README"
-block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$tests/../../README.md" | sed '1d; $d'; }
+block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
 block text >"$work/readme.txt"
 block cpp >"$work/readme.cpp"
 block c >"$work/readme.c"
