@@ -344,8 +344,10 @@ configure() {
       -DCMAKE_FIND_ROOT_PATH="$cache/$arch/icu;$cache/$arch/googletest"
       -DCMAKE_CROSSCOMPILING_EMULATOR="$self;--exec;$arch")
   fi
-  cmake -G Ninja -S "$top" -B "$(build_of "$arch")" -DCMAKE_BUILD_TYPE=Release \
-    -DZRSTRING_WARNINGS_AS_ERRORS=ON -DZRSTRING_BUILD_TESTS=ON -DZRSTRING_BUILD_EXAMPLES=ON \
+  # What CMake remembers of their places may be of another cache folder.
+  cmake -U 'ICU_*' -U GTest_DIR -G Ninja -S "$top" -B "$(build_of "$arch")" \
+    -DCMAKE_BUILD_TYPE=Release -DZRSTRING_WARNINGS_AS_ERRORS=ON \
+    -DZRSTRING_BUILD_TESTS=ON -DZRSTRING_BUILD_EXAMPLES=ON \
     -DZRSTRING_BUILD_BENCHMARKS=OFF "${switches[@]}"
 }
 
