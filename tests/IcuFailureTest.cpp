@@ -1,8 +1,9 @@
-#include <ZRString/ZRString.h>
+#include <ZRString/ZRStringMutator.h>
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
+#include <unicode/normlzr.h>
 
 #include <atomic>
 #include <chrono>
@@ -50,6 +51,21 @@ icu::Collator* icu::Collator::createInstance(const icu::Locale& locale, UErrorCo
                              "8Collator14createInstanceERKNS_6LocaleER10UErrorCode";
   static const auto original = reinterpret_cast<Original>(dlsym(RTLD_NEXT, symbol.c_str()));
   return original(locale, status);
+}
+
+/// Stands before ICU's own and always fails.
+void icu::Normalizer::normalize(const icu::UnicodeString&, UNormalizationMode, std::int32_t,
+                                icu::UnicodeString& result, UErrorCode& status) {
+  result.remove();
+  status = U_MEMORY_ALLOCATION_ERROR;
+}
+
+TEST(Normalize, LeavesTheStringWhenIcuFails) {
+  ZRStringMutator string(Make(u"e\u0301"));
+  const ZRString sharer(string);
+  EXPECT_EQ(string.Normalize(kZRNormalizationNFC), 0);
+  EXPECT_EQ(TextOf(string), u"e\u0301");
+  EXPECT_EQ(BodyOf(string), BodyOf(sharer));
 }
 
 TEST(ProcessCollator, IsMadeOnceForTheFirstDefaultLocaleAndTriedAgainAfterFailure) {
