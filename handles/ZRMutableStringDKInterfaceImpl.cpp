@@ -2,6 +2,7 @@
 #include <ZRString/ZRStringMutator.h>
 
 #include <memory>
+#include <new>
 
 #include "handles/Parameters.h"
 
@@ -270,11 +271,13 @@ ZRLong ZRMutableStringDKInterfaceImpl::ZRMutableStringAddStrings(ZRStringRef__* 
                                                                  ZRMutableStringRef__** out) {
   if (const ZRLong status = FirstInvalid(NotNull(first), NotNull(second), NotNull(out)))
     return status;
-  const ZRString left(GetZRStringFromRef(first));
-  const ZRString right(GetZRStringFromRef(second));
   auto sum = std::make_unique<ZRStringMutator>();
-  *sum += left;
-  *sum += right;
+  *sum += GetZRStringFromRef(first);
+  *sum += GetZRStringFromRef(second);
+  // No buffer: ICU could not hold the sum. An edit leaves that in the text, a create function
+  // throws.
+  if (!sum->GetBuffer())
+    throw std::bad_alloc();
   *out = sum.release()->GetZRMutableStringRef();
   return kZRStatusSuccess;
 }

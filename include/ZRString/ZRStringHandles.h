@@ -353,7 +353,8 @@ ZR_API ZRLong ZRMutableStringReleaseBuffer(ZRMutableStringRef__* string, ZRLong 
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1.
 ZR_API ZRLong ZRMutableStringReverse(ZRMutableStringRef__* string, ZRLong start, ZRLong length);
 
-/// A new mutable string: `first` followed by `second`, which may be the same string.
+/// A new mutable string: `first` followed by `second`, which may be the same string. When there is
+/// no memory for the sum, `std::bad_alloc` leaves the function and no handle is written.
 /// @return 0; 4 first is null; 5 second is null; 6 out is null.
 ZR_API ZRLong ZRMutableStringAddStrings(ZRStringRef__* first, ZRStringRef__* second,
                                         ZRMutableStringRef__** out);
