@@ -76,6 +76,8 @@ class Printers(unittest.TestCase):
     def check(self, rows, commands=(), **options):
         options.setdefault("before", ["source " + PRINTERS])
         shown, output = printed([*commands, *("print " + row[0] for row in rows)], **options)
+        if "Couldn't write extended state" in output:  # seen in virtual machines
+            self.skipTest("the system does not let GDB call functions of the program")
         self.assertEqual(len(shown), len(rows), output)
         for (expression, expected), line in zip(rows, shown):
             pattern = re.escape(expected).replace("ADDRESS", "0x[0-9a-f]+")
