@@ -1,15 +1,18 @@
+// Guards the handle functions: every status, what each calls, and that a refused call changes
+// nothing.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <set>
-#include <tuple>
+#include <sstream>
 #include <vector>
 
 #include "Text.h"
@@ -20,197 +23,186 @@ using Immutable = ZRAccessorStringDKInterfaceImpl;
 using Mutable = ZRMutableStringDKInterfaceImpl;
 using Array = ZRStringCDKInterfaceImpl;
 
-/// The targets of every out-parameter, so that a write to any of them is seen.
-struct Outputs {
-  ZRLong number;
-  ZRULong size;
-  unsigned char flag;
-  unsigned short units[8];
-  unsigned short* buffer;
-  ZRStringRef__* string;
-  ZRMutableStringRef__* mutableString;
-  ZRStringPtrArrayRef__* array;
+/// An argument with its type taken away: a pointer or an integer.
+using Word = std::uintptr_t;
+
+/// A handle function with the types of its parameters taken away.
+struct Function {
+  std::size_t parameters;
+  std::function<ZRLong(const Word*)> call;
+};
+
+template <typename... Types, std::size_t... Index>
+ZRLong CallWith(ZRLong (*function)(Types...), const Word* words, std::index_sequence<Index...>) {
+  // A C cast is both the static and the reinterpreting one.
+  return function((Types)(words[Index])...);
+}
+
+template <typename... Types>
+Function Erased(ZRLong (*function)(Types...)) {
+  return {sizeof...(Types), [function](const Word* words) {
+            return CallWith(function, words, std::index_sequence_for<Types...>());
+          }};
+}
+
+/// A parameter: a valid argument, the invalid ones, and the status then.
+struct Parameter {
+  Word valid;
+  std::vector<Word> invalid;
+  ZRLong status = 0;  // 0: 3 + position
+};
+
+Word W(ZRLong value) { return static_cast<Word>(value); }
+Word W(const volatile void* pointer) { return reinterpret_cast<Word>(pointer); }
+
+struct Row {
+  const char* name;  // of the plain function
+  Function plain, member;
+  const char* parameters;  // their kinds
+};
+
+#define ZR_BOTH(family, name) #name, Erased(&::name), Erased(&family::name)
+#define ZR_ARRAY(name, member) #name, Erased(&::name), Erased(&Array::member)
+
+const Row kRows[] = {
+    {ZR_BOTH(Immutable, ZRStringCreateFromUniChars), "units start toEnd out"},
+    {ZR_BOTH(Immutable, ZRStringCreateFromLocalString), "bytes start toEnd out"},
+    {ZR_BOTH(Immutable, ZRStringCreateFromCString), "bytes start length out"},
+    {ZR_BOTH(Immutable, ZRStringCreateCopy), "string out"},
+    {ZR_BOTH(Immutable, ZRStringCreateCopyRange), "string start toEnd out"},
+    {ZR_BOTH(Immutable, ZRStringDestroy), "string"},
+    {ZR_BOTH(Immutable, ZRStringCompare), "string start toEnd string start toEnd out"},
+    {ZR_BOTH(Immutable, ZRStringCompareCodePointOrder),
+     "string start toEnd string start toEnd out"},
+    {ZR_BOTH(Immutable, ZRStringICompare), "string start toEnd string start toEnd any out"},
+    {ZR_BOTH(Immutable, ZRStringFind), "string start toEnd string out"},
+    {ZR_BOTH(Immutable, ZRStringFindUniChars), "string start toEnd any length out"},
+    {ZR_BOTH(Immutable, ZRStringRFind), "string start toEnd string out"},
+    {ZR_BOTH(Immutable, ZRStringRFindUniChars), "string start toEnd any length out"},
+    {ZR_BOTH(Immutable, ZRStringGetUniCharsAt), "string any count out"},
+    {ZR_BOTH(Immutable, ZRStringExtractIntoUniChars), "string start toEnd out start"},
+    {ZR_BOTH(Immutable, ZRStringGetLength), "string out"},
+    {ZR_BOTH(Immutable, ZRStringIsEmpty), "string out"},
+    {ZR_BOTH(Immutable, ZRStringGetBuffer), "string out"},
+    {ZR_BOTH(Immutable, ZRStringLastIndexOf), "string any out"},
+
+    {ZR_BOTH(Mutable, ZRMutableStringCreateEmpty), "out"},
+    {ZR_BOTH(Mutable, ZRMutableStringCreateFromUniChars), "units start length out"},
+    {ZR_BOTH(Mutable, ZRMutableStringCreateCopy), "string out"},
+    {ZR_BOTH(Mutable, ZRMutableStringCreateCopyRange), "string start toEnd out"},
+    {ZR_BOTH(Mutable, ZRMutableStringCreateFromLocalString), "bytes start length out"},
+    {ZR_BOTH(Mutable, ZRMutableStringCreateFromCString), "bytes start length out"},
+    {ZR_BOTH(Mutable, ZRMutableStringDestroy), "mutable"},
+    {ZR_BOTH(Mutable, ZRMutableStringSetUniCharAt), "mutable start any"},
+    {ZR_BOTH(Mutable, ZRMutableStringSetToZRString), "mutable string start toEnd"},
+    {ZR_BOTH(Mutable, ZRMutableStringAppend), "mutable string"},
+    {ZR_BOTH(Mutable, ZRMutableStringAppendUniChars), "mutable units start length"},
+    {ZR_BOTH(Mutable, ZRMutableStringInsert), "mutable start string start toEnd"},
+    {ZR_BOTH(Mutable, ZRMutableStringInsertUniChars), "mutable start units start length"},
+    {ZR_BOTH(Mutable, ZRMutableStringReplaceBetween), "mutable start toEnd string"},
+    {ZR_BOTH(Mutable, ZRMutableStringReplaceWithUniChars),
+     "mutable start toEnd units start length"},
+    {ZR_BOTH(Mutable, ZRMutableStringFindAndReplace), "mutable start toEnd string string"},
+    {ZR_BOTH(Mutable, ZRMutableStringRemoveBetween), "mutable start toEnd"},
+    {ZR_BOTH(Mutable, ZRMutableStringPadLeading), "mutable start any out"},
+    {ZR_BOTH(Mutable, ZRMutableStringPadTrailing), "mutable start any out"},
+    {ZR_BOTH(Mutable, ZRMutableStringTruncate), "mutable start out"},
+    {ZR_BOTH(Mutable, ZRMutableStringTrim), "mutable"},
+    {ZR_BOTH(Mutable, ZRMutableStringToUpper), "mutable"},
+    {ZR_BOTH(Mutable, ZRMutableStringToLower), "mutable"},
+    {ZR_BOTH(Mutable, ZRMutableStringGetBufferWithCapacity), "mutable toEnd out"},
+    {ZR_BOTH(Mutable, ZRMutableStringGetCapacity), "mutable out"},
+    {ZR_BOTH(Mutable, ZRMutableStringReleaseBuffer), "mutable toEnd"},
+    {ZR_BOTH(Mutable, ZRMutableStringReverse), "mutable start toEnd"},
+    {ZR_BOTH(Mutable, ZRMutableStringAddStrings), "string string out"},
+    {ZR_BOTH(Mutable, ZRMutableStringLastIndexOf), "mutable any out"},
+
+    {ZR_ARRAY(ZRStringPtrArrayCreate, ZRSPtrArrayCreate), "out"},
+    {ZR_ARRAY(ZRStrPtrArrCreateFromZRStrPtrArr, ZRSPtrArrayCreateFromZRSPtrArray), "array out"},
+    {ZR_ARRAY(ZRStringPtrArrayDestroy, ZRSPtrArrayDestroy), "array"},
+    {ZR_ARRAY(ZRStringPtrArraySize, ZRSPtrArraySize), "array out"},
+    {ZR_ARRAY(ZRStringPtrArrayIsEmpty, ZRSPtrArrayIsEmpty), "array out"},
+    {ZR_ARRAY(GetZRStringRefAt, ZRSPtrArrayGetZRStringRefAt), "array any out"},
+    {ZR_ARRAY(SetZRStringRefAt, ZRSPtrArraySetZRStringRefAt), "array any string"},
+    {ZR_ARRAY(InsertZRStringRefAt, ZRSPtrArrayInsertZRStringRefAt), "array any string"},
+    {ZR_ARRAY(ZRStringPtrArrayPushBack, ZRSPtrArrayPushBack), "array string"},
+    {ZR_ARRAY(ZRStringPtrArrayErase, ZRSPtrArrayErase), "array index"},
+    {ZR_ARRAY(ZRStringPtrArrayEraseAll, ZRSPtrArrayEraseAll), "array"},
+    {ZR_ARRAY(ZRStringPtrArrayDeleteAll, ZRSPtrArrayDeleteAll), "array"},
 };
 
 class Statuses : public testing::Test {
  protected:
   Statuses() {
-    std::memset(&out, 0x5A, sizeof out);
-    untouched = out;
     array.PushBack(&string);
+    std::fill(std::begin(out), std::end(out), untouched);
   }
-
-  /// One parameter of a function: a valid value, what makes it invalid, and the status then.
-  template <typename Type>
-  struct Parameter {
-    Type valid;
-    std::vector<Type> invalid;
-    ZRLong status = 0;  // 0: 3 + position
-  };
-
-  /// Keeps a parameter's type from being deduced, so that the function's own types count.
-  template <typename Type>
-  struct Exactly {
-    using type = Type;
-  };
 
   /// Makes each parameter invalid in turn, alone and together with all later ones.
-  template <typename... Types>
-  void Check(const char* name, ZRLong (*plain)(Types...), ZRLong (*member)(Types...),
-             typename Exactly<Parameter<Types>>::type... parameters) {
-    names.insert(name);
-    CheckOne(name, plain, parameters...);
-    CheckOne(std::string(name) + ", member", member, parameters...);
-  }
-
-  template <typename... Types>
-  void CheckOne(const std::string& name, ZRLong (*function)(Types...),
-                const Parameter<Types>&... parameters) {
-    CheckEach(name, function, std::make_tuple(parameters...), std::index_sequence_for<Types...>());
-  }
-
-  template <typename Function, typename Parameters, std::size_t... Index>
-  void CheckEach(const std::string& name, Function function, const Parameters& parameters,
-                 std::index_sequence<Index...> all) {
-    (CheckPosition<Index>(name, function, parameters, all), ...);
-  }
-
-  template <std::size_t Position, typename Function, typename Parameters, std::size_t... Index>
-  void CheckPosition(const std::string& name, Function function, const Parameters& parameters,
-                     std::index_sequence<Index...>) {
-    const auto& tested = std::get<Position>(parameters);
-    for (const auto& value : tested.invalid) {
-      for (const bool alone : {true, false}) {
-        const auto argument = [&](const auto& parameter, int index) {
-          return alone || index < static_cast<int>(Position) || parameter.invalid.empty()
-                     ? parameter.valid
-                     : parameter.invalid[0];
-        };
-        auto arguments = std::make_tuple(argument(std::get<Index>(parameters), Index)...);
-        std::get<Position>(arguments) = value;
-        SCOPED_TRACE(testing::Message() << name << ", parameter " << Position + 1
-                                        << (alone ? "" : " and all later ones"));
-        EXPECT_EQ(std::apply(function, arguments),
-                  tested.status ? tested.status : static_cast<ZRLong>(Position + 4));
-        EXPECT_EQ(std::memcmp(&out, &untouched, sizeof out), 0);
-        EXPECT_EQ(TextOf(string), u"abc");
-        EXPECT_EQ(TextOf(mutableString), u"abc");
-        EXPECT_EQ(array.Size(), 1u);
+  void Check(const Function& function, const std::vector<const Parameter*>& parameters,
+             bool nullStringIs5) {
+    for (std::size_t position = 0; position < parameters.size(); ++position) {
+      for (const Word value : parameters[position]->invalid) {
+        for (const bool alone : {true, false}) {
+          std::vector<Word> words;
+          for (const Parameter* const each : parameters)
+            words.push_back(alone || words.size() < position || each->invalid.empty()
+                                ? each->valid
+                                : each->invalid[0]);
+          words[position] = value;
+          SCOPED_TRACE(testing::Message()
+                       << "parameter " << position + 1 << (alone ? "" : " and all later ones"));
+          const ZRLong byPosition =
+              nullStringIs5 && position == 2 ? 5 : static_cast<ZRLong>(position) + 4;
+          const ZRLong status = parameters[position]->status;
+          EXPECT_EQ(function.call(words.data()), status ? status : byPosition);
+          EXPECT_EQ(std::count(std::begin(out), std::end(out), untouched), std::end(out) - out);
+          EXPECT_EQ(TextOf(string), u"abc");
+          EXPECT_EQ(TextOf(mutableString), u"abc");
+          EXPECT_EQ(array.Size(), 1u);
+        }
       }
     }
   }
 
-  template <typename Type>
-  static Parameter<Type> Pointer(Type valid, ZRLong status = 0) {
-    return {valid, {nullptr}, status};
-  }
-
-  Outputs out;
-  Outputs untouched;
+  static constexpr Word untouched = 0x5A5A5A5A;
+  Word out[4];  // what every out-parameter points to
   ZRString string = Make(u"abc");
   ZRStringMutator mutableString{string};
   ZRStringPtrArray array;
-  std::set<std::string> names;
+
+  const std::map<std::string, Parameter> kinds = {
+      {"string", {W(&string), {0}}},
+      {"mutable", {W(&mutableString), {0}}},
+      {"array", {W(&array), {0}}},
+      {"units", {W(string.GetBuffer()), {0}}},
+      {"bytes", {W("abc"), {0}}},
+      {"out", {W(out), {0}}},
+      {"start", {W(0), {W(-1), W(INT_MIN)}}},
+      {"toEnd", {W(-1), {W(-2), W(INT_MIN)}}},
+      {"length", {W(1), {W(-1), W(-2), W(INT_MIN)}}},
+      {"count", {W(1), {W(0), W(-1), W(INT_MIN)}}},
+      {"index", {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, 12}},
+      {"any", {W(0), {}}},
+  };
 };
 
 }  // namespace
 
-#define ZR_BOTH(family, name) #name, &::name, &family::name
-
 TEST_F(Statuses, TheFirstInvalidParameterCountsAndNothingIsWritten) {
-  const auto s = Pointer(string.GetZRStringRef());
-  const auto m = Pointer(mutableString.GetZRMutableStringRef());
-  const auto a = Pointer(array.GetZRStringPtrArrayRef());
-  const auto chars = Pointer<const unsigned short*>(string.GetBuffer());
-  const auto text = Pointer("abc");
-  const auto bytes = Pointer(reinterpret_cast<const unsigned char*>("abc"));
-  const auto number = Pointer(&out.number);
-  const auto flag = Pointer(&out.flag);
-  const auto newS = Pointer(&out.string);
-  const auto newM = Pointer(&out.mutableString);
-  const auto newA = Pointer(&out.array);
-  const auto units = Pointer<unsigned short*>(out.units);
-  const Parameter<ZRLong> start{0, {-1, INT_MIN}};
-  const Parameter<ZRLong> toEnd{-1, {-2, INT_MIN}};
-  const Parameter<ZRLong> length{1, {-1, -2, INT_MIN}};
-  const Parameter<unsigned short> unit{'a', {}};
-  const Parameter<unsigned short*> pattern{out.units, {}};
-  const Parameter<ZRLong> anyIndex{0, {}};
-  const Parameter<ZRULong> options{0, {}};
-
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromUniChars), chars, start, toEnd, newS);
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromLocalString), bytes, start, toEnd, newS);
-  Check(ZR_BOTH(Immutable, ZRStringCreateFromCString), text, start, length, newS);
-  Check(ZR_BOTH(Immutable, ZRStringCreateCopy), s, newS);
-  Check(ZR_BOTH(Immutable, ZRStringCreateCopyRange), s, start, toEnd, newS);
-  Check(ZR_BOTH(Immutable, ZRStringDestroy), s);
-  Check(ZR_BOTH(Immutable, ZRStringCompare), s, start, toEnd, s, start, toEnd, number);
-  Check(ZR_BOTH(Immutable, ZRStringCompareCodePointOrder), s, start, toEnd, s, start, toEnd,
-        number);
-  Check(ZR_BOTH(Immutable, ZRStringICompare), s, start, toEnd, s, start, toEnd, options, number);
-  Check(ZR_BOTH(Immutable, ZRStringFind), s, start, toEnd, s, number);
-  Check(ZR_BOTH(Immutable, ZRStringFindUniChars), s, start, toEnd, pattern, length, number);
-  Check(ZR_BOTH(Immutable, ZRStringRFind), s, start, toEnd, s, number);
-  Check(ZR_BOTH(Immutable, ZRStringRFindUniChars), s, start, toEnd, pattern, length, number);
-  Check(ZR_BOTH(Immutable, ZRStringGetUniCharsAt), s, anyIndex, {1, {0, -1, INT_MIN}}, units);
-  Check(ZR_BOTH(Immutable, ZRStringExtractIntoUniChars), s, start, toEnd, units, start);
-  Check(ZR_BOTH(Immutable, ZRStringGetLength), s, number);
-  Check(ZR_BOTH(Immutable, ZRStringIsEmpty), s, flag);
-  Check(ZR_BOTH(Immutable, ZRStringGetBuffer), s, Pointer(&out.buffer));
-  Check(ZR_BOTH(Immutable, ZRStringLastIndexOf), s, unit, number);
-
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateEmpty), newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromUniChars), chars, start, length, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopy), s, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateCopyRange), s, start, toEnd, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromLocalString), bytes, start, length, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringCreateFromCString), text, start, length, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringDestroy), m);
-  Check(ZR_BOTH(Mutable, ZRMutableStringSetUniCharAt), m, start, unit);
-  Check(ZR_BOTH(Mutable, ZRMutableStringSetToZRString), m, s, start, toEnd);
-  Check(ZR_BOTH(Mutable, ZRMutableStringAppend), m, s);
-  Check(ZR_BOTH(Mutable, ZRMutableStringAppendUniChars), m, chars, start, length);
-  Check(ZR_BOTH(Mutable, ZRMutableStringInsert), m, start, s, start, toEnd);
-  Check(ZR_BOTH(Mutable, ZRMutableStringInsertUniChars), m, start, chars, start, length);
-  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceBetween), m, start, toEnd, s);
-  Check(ZR_BOTH(Mutable, ZRMutableStringReplaceWithUniChars), m, start, toEnd, chars, start,
-        length);
-  Check(ZR_BOTH(Mutable, ZRMutableStringFindAndReplace), m, start, toEnd, s, s);
-  Check(ZR_BOTH(Mutable, ZRMutableStringRemoveBetween), m, start, toEnd);
-  Check(ZR_BOTH(Mutable, ZRMutableStringPadLeading), m, start, unit, flag);
-  Check(ZR_BOTH(Mutable, ZRMutableStringPadTrailing), m, start, unit, flag);
-  Check(ZR_BOTH(Mutable, ZRMutableStringTruncate), m, start, flag);
-  Check(ZR_BOTH(Mutable, ZRMutableStringTrim), m);
-  Check(ZR_BOTH(Mutable, ZRMutableStringToUpper), m);
-  Check(ZR_BOTH(Mutable, ZRMutableStringToLower), m);
-  Check(ZR_BOTH(Mutable, ZRMutableStringGetBufferWithCapacity), m, toEnd, Pointer(&out.buffer));
-  Check(ZR_BOTH(Mutable, ZRMutableStringGetCapacity), m, number);
-  Check(ZR_BOTH(Mutable, ZRMutableStringReleaseBuffer), m, toEnd);
-  Check(ZR_BOTH(Mutable, ZRMutableStringReverse), m, start, toEnd);
-  Check(ZR_BOTH(Mutable, ZRMutableStringAddStrings), s, s, newM);
-  Check(ZR_BOTH(Mutable, ZRMutableStringLastIndexOf), m, unit, number);
-
-  Check("ZRStringPtrArrayCreate", &::ZRStringPtrArrayCreate, &Array::ZRSPtrArrayCreate, newA);
-  Check("ZRStrPtrArrCreateFromZRStrPtrArr", &::ZRStrPtrArrCreateFromZRStrPtrArr,
-        &Array::ZRSPtrArrayCreateFromZRSPtrArray, a, newA);
-  Check("ZRStringPtrArrayDestroy", &::ZRStringPtrArrayDestroy, &Array::ZRSPtrArrayDestroy, a);
-  Check("ZRStringPtrArraySize", &::ZRStringPtrArraySize, &Array::ZRSPtrArraySize, a,
-        Pointer(&out.size));
-  Check("ZRStringPtrArrayIsEmpty", &::ZRStringPtrArrayIsEmpty, &Array::ZRSPtrArrayIsEmpty, a, flag);
-  Check("GetZRStringRefAt", &::GetZRStringRefAt, &Array::ZRSPtrArrayGetZRStringRefAt, a, anyIndex,
-        newS);
-  Check("SetZRStringRefAt", &::SetZRStringRefAt, &Array::ZRSPtrArraySetZRStringRefAt, a, anyIndex,
-        s);
-  names.insert("InsertZRStringRefAt");
-  CheckOne("InsertZRStringRefAt", &::InsertZRStringRefAt, a, anyIndex,
-           Pointer(string.GetZRStringRef(), 5));
-  CheckOne("its member", &Array::ZRSPtrArrayInsertZRStringRefAt, a, anyIndex, s);
-  Check("ZRStringPtrArrayPushBack", &::ZRStringPtrArrayPushBack, &Array::ZRSPtrArrayPushBack, a, s);
-  Check("ZRStringPtrArrayErase", &::ZRStringPtrArrayErase, &Array::ZRSPtrArrayErase, a,
-        {1, {-1, 1, INT_MIN, INT_MAX}, 12});
-  Check("ZRStringPtrArrayEraseAll", &::ZRStringPtrArrayEraseAll, &Array::ZRSPtrArrayEraseAll, a);
-  Check("ZRStringPtrArrayDeleteAll", &::ZRStringPtrArrayDeleteAll, &Array::ZRSPtrArrayDeleteAll, a);
-
+  std::set<std::string> names;
+  for (const Row& row : kRows) {
+    names.insert(row.name);
+    std::istringstream words(row.parameters);
+    std::vector<const Parameter*> parameters;
+    for (std::string kind; words >> kind;)
+      parameters.push_back(&kinds.at(kind));
+    ASSERT_EQ(parameters.size(), row.plain.parameters) << row.name;
+    SCOPED_TRACE(row.name);
+    Check(row.plain, parameters, row.name == std::string("InsertZRStringRefAt"));
+    SCOPED_TRACE("the member");
+    Check(row.member, parameters, false);
+  }
   std::ifstream list(ZRSTRING_PLAIN_EXPORTS);
   const std::set<std::string> exported{std::istream_iterator<std::string>(list), {}};
   EXPECT_EQ(exported.size(), 60u);
