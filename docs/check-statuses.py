@@ -82,7 +82,7 @@ def functions(header):
         elif line.startswith("///"):
             comment.append(line[3:].strip())
         elif line.startswith("ZR_API"):
-            match = re.fullmatch(r"ZR_API ZRLong (\w+)\((.*)\);", line)
+            match = re.fullmatch(r"ZR_API ZRLong ZR_CALL (\w+)\((.*)\);", line)
             if not match:
                 sys.exit(f"cannot read '{line}'")
             parameters = [re.search(r"(\w+)$", each)[1] for each in match[2].split(", ")]

@@ -20,7 +20,7 @@ template <typename... Entries>
 constexpr ZRLong FirstInvalid(Entries... valid) {
   if ((valid && ...))
     return kZRStatusSuccess;
-  ZRLong status = 3;
+  ZRLong status = kZRStatusFirstParameter - 1;
   static_cast<void>(((++status, !valid) || ...));
   return status;
 }

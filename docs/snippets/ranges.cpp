@@ -10,7 +10,7 @@
 // The expression's own text is what the page shows. A call
 // finds "banana" in `fruit`.
 #define ZR_ROW(...) Row(#__VA_ARGS__, Text(__VA_ARGS__))
-#define ZR_CALL(call, result) \
+#define ZR_CALL_ROW(call, result) \
   (fruitText = banana, CallRow(#call, call, result))
 
 namespace {
@@ -118,28 +118,33 @@ int main() {
   ZRLong index = 0;
   ZRLong order = 0;
   ZRStringRef__* const bananaRef = banana.GetZRStringRef();
-  ZR_CALL(ZRStringFind(bananaRef, 2, -1, anaRef, &index),
-          index);
-  ZR_CALL(ZRStringFind(bananaRef, 99, -1, anaRef, &index),
-          index);
-  ZR_CALL(ZRStringFind(bananaRef, -1, -1, anaRef, &index),
-          index);
-  ZR_CALL(ZRStringFind(bananaRef, 2, -2, anaRef, &index),
-          index);
-  ZR_CALL(ZRStringCompare(bananaRef, 1, 3, anaRef, 0, -1,
-                          &order),
-          order);
-  ZR_CALL(ZRMutableStringAppendUniChars(fruit, raw, 1, 1),
-          fruitText);
-  ZR_CALL(ZRMutableStringAppendUniChars(fruit, raw, 1, -1),
-          fruitText);
-  ZR_CALL(ZRMutableStringReplaceBetween(fruit, 1, 2, anaRef),
-          fruitText);
-  ZR_CALL(ZRMutableStringRemoveBetween(fruit, 1, 2),
-          fruitText);
-  ZR_CALL(ZRMutableStringRemoveBetween(fruit, 4, -1),
-          fruitText);
-  ZR_CALL(ZRMutableStringSetUniCharAt(fruit, 99, 0x73),
-          fruitText);
+  ZR_CALL_ROW(ZRStringFind(bananaRef, 2, -1, anaRef, &index),
+              index);
+  ZR_CALL_ROW(ZRStringFind(bananaRef, 99, -1, anaRef,
+                           &index),
+              index);
+  ZR_CALL_ROW(ZRStringFind(bananaRef, -1, -1, anaRef,
+                           &index),
+              index);
+  ZR_CALL_ROW(ZRStringFind(bananaRef, 2, -2, anaRef, &index),
+              index);
+  ZR_CALL_ROW(ZRStringCompare(bananaRef, 1, 3, anaRef, 0, -1,
+                              &order),
+              order);
+  ZR_CALL_ROW(ZRMutableStringAppendUniChars(fruit, raw, 1,
+                                            1),
+              fruitText);
+  ZR_CALL_ROW(ZRMutableStringAppendUniChars(fruit, raw, 1,
+                                            -1),
+              fruitText);
+  ZR_CALL_ROW(ZRMutableStringReplaceBetween(fruit, 1, 2,
+                                            anaRef),
+              fruitText);
+  ZR_CALL_ROW(ZRMutableStringRemoveBetween(fruit, 1, 2),
+              fruitText);
+  ZR_CALL_ROW(ZRMutableStringRemoveBetween(fruit, 4, -1),
+              fruitText);
+  ZR_CALL_ROW(ZRMutableStringSetUniCharAt(fruit, 99, 0x73),
+              fruitText);
   return 0;
 }

@@ -226,11 +226,11 @@ class ZR_API ZRString {
 };
 
 /// The string that a handle stands for. `handle` must not be null.
-ZR_API const ZRString& GetZRStringFromRef(ZRStringRef__* handle);
+ZR_API const ZRString& ZR_CALL GetZRStringFromRef(ZRStringRef__* handle);
 
 /// Writes the address of the string that `handle` stands for to `*result`.
 /// @return 5 `result` is null (tested first); 4 `handle` is null; otherwise 0. `*result` is
 ///         written only with 0.
-ZR_API ZRLong ZRStringRefToZRString(ZRStringRef__* handle, ZRString** result);
+ZR_API ZRLong ZR_CALL ZRStringRefToZRString(ZRStringRef__* handle, ZRString** result);
 
 #endif

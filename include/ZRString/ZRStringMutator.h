@@ -194,12 +194,12 @@ class ZR_API ZRStringMutator : public ZRString {
 };
 
 /// `left` followed by `unit`.
-ZR_API ZRStringMutator operator+(const ZRString& left, unsigned short unit);
+ZR_API ZRStringMutator ZR_CALL operator+(const ZRString& left, unsigned short unit);
 
 /// `unit` followed by `right`.
-ZR_API ZRStringMutator operator+(unsigned short unit, const ZRString& right);
+ZR_API ZRStringMutator ZR_CALL operator+(unsigned short unit, const ZRString& right);
 
 /// The mutable string that a handle stands for. `handle` must not be null.
-ZR_API ZRStringMutator& GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
+ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
 
 #endif

@@ -32,20 +32,20 @@ inline unsigned short std::basic_ios<unsigned short>::widen(char character) cons
 }
 
 /// Inserts `string` into `stream`. @return `stream`
-ZR_API std::basic_ostream<unsigned short>& SerializeBasicStream(
-    const ZRString& string, std::basic_ostream<unsigned short>& stream);
+ZR_API std::basic_ostream<unsigned short>& ZR_CALL
+SerializeBasicStream(const ZRString& string, std::basic_ostream<unsigned short>& stream);
 
 /// Inserts `string`. @return `stream`
-ZR_API std::basic_ostream<unsigned short>& operator<<(std::basic_ostream<unsigned short>& stream,
-                                                      const ZRString& string);
+ZR_API std::basic_ostream<unsigned short>& ZR_CALL
+operator<<(std::basic_ostream<unsigned short>& stream, const ZRString& string);
 
 /// Inserts `string`. @return `stream`, still as a string stream
-ZR_API std::basic_ostringstream<unsigned short>& operator<<(
-    std::basic_ostringstream<unsigned short>& stream, const ZRString& string);
+ZR_API std::basic_ostringstream<unsigned short>& ZR_CALL
+operator<<(std::basic_ostringstream<unsigned short>& stream, const ZRString& string);
 
 /// Inserts a zero-terminated 8-bit text, decoded from the code page windows-1252; a null `text` is
 /// an empty one. @return `stream`, still as a string stream
-ZR_API std::basic_ostringstream<unsigned short>& operator<<(
-    std::basic_ostringstream<unsigned short>& stream, const char* text);
+ZR_API std::basic_ostringstream<unsigned short>& ZR_CALL
+operator<<(std::basic_ostringstream<unsigned short>& stream, const char* text);
 
 #endif

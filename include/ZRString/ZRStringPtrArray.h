@@ -86,6 +86,6 @@ class ZR_API ZRStringPtrArray {
 };
 
 /// The array that a handle stands for; null for a null handle.
-ZR_API ZRStringPtrArray* GetZRStringPtrArrayFromRef(ZRStringPtrArrayRef__* handle);
+ZR_API ZRStringPtrArray* ZR_CALL GetZRStringPtrArrayFromRef(ZRStringPtrArrayRef__* handle);
 
 #endif

@@ -19,26 +19,26 @@
 /// the array with the entries that were complete.
 
 /// Writes the record of `string`.
-ZR_API Velmar::IStream& operator<<(Velmar::IStream& stream, const ZRString& string);
+ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, const ZRString& string);
 
 /// Writes the record of `string`.
-ZR_API Velmar::IStream& operator>>(const ZRString& string, Velmar::IStream& stream);
+ZR_API Velmar::IStream& ZR_CALL operator>>(const ZRString& string, Velmar::IStream& stream);
 
 /// Reads a string record into `string`, which detaches. A record of length 0 or less, of which
 /// only the length is read, leaves `string` as it was.
-ZR_API Velmar::IStream& operator>>(Velmar::IStream& stream, ZRStringMutator& string);
+ZR_API Velmar::IStream& ZR_CALL operator>>(Velmar::IStream& stream, ZRStringMutator& string);
 
 /// The same.
-ZR_API Velmar::IStream& operator<<(ZRStringMutator& string, Velmar::IStream& stream);
+ZR_API Velmar::IStream& ZR_CALL operator<<(ZRStringMutator& string, Velmar::IStream& stream);
 
 /// Writes the record of `array`, which must hold no null entry and is not changed.
-ZR_API Velmar::IStream& operator<<(Velmar::IStream& stream, ZRStringPtrArray& array);
+ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, ZRStringPtrArray& array);
 
 /// Reads an array record and appends its strings to `array`, behind what it holds.
 ///
 /// The strings are made with `new` and belong to the owner of the array, who normally releases
 /// them with ZRStringPtrArray::DeleteAll(). A record of length 0 gives an empty string; a negative
 /// length throws `std::bad_alloc`.
-ZR_API Velmar::IStream& operator>>(Velmar::IStream& stream, ZRStringPtrArray& array);
+ZR_API Velmar::IStream& ZR_CALL operator>>(Velmar::IStream& stream, ZRStringPtrArray& array);
 
 #endif

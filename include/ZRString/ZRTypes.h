@@ -4,10 +4,11 @@
 #include <limits.h>
 
 /// @file
-/// The integer types of the interface, the `UniStr255` record and the export macro. Plain C.
+/// The integer types of the interface, names for its special values, the `UniStr255` record, and
+/// the macros that every declaration of the library carries. Plain C.
 
 /// @def ZR_API
-/// Marks what the shared library exports; the import side sees the same headers.
+/// Marks what the shared library exports. Programs that use the library see it as an import.
 #if defined(_WIN32)
 #if defined(ZRString_EXPORTS)
 #define ZR_API __declspec(dllexport)
@@ -16,6 +17,15 @@
 #endif
 #else
 #define ZR_API __attribute__((visibility("default")))
+#endif
+
+/// @def ZR_CALL
+/// The calling convention of every function that is not a member of a class: `__cdecl` on 32-bit
+/// Windows, whatever the compiler's default there is, and the platform's only one elsewhere.
+#if defined(_WIN32) && !defined(_WIN64)
+#define ZR_CALL __cdecl
+#else
+#define ZR_CALL
 #endif
 
 /// @typedef ZRLong
@@ -32,14 +42,30 @@ typedef int ZRLong;
 typedef unsigned int ZRULong;
 #endif
 
+/// Values with a meaning of their own.
+enum {
+  kZRToEnd = -1,      ///< A length: to the end of the text.
+  kZRNotFound = -1,   ///< The result of a search that finds nothing.
+  kZRNoUnit = 0xFFFF  ///< The unit at an index outside the string; not a character.
+};
+
+/// The kinds of comparison that ZRString::ICompare and ZRStringICompare() offer. Other values are
+/// option bits for ICU's case-insensitive comparison.
+enum {
+  kZRCompareIgnoreCase = 0,                ///< By default case folding, in code unit order.
+  kZRCompareIgnoreCaseTurkic = 1,          ///< As 0, with the Turkic dotted and dotless i.
+  kZRCompareIgnoreCaseCodePointOrder = 2,  ///< As 0, in code point order.
+  kZRCompareCollated = 3  ///< In the linguistic order of the default locale, case included.
+};
+
 /// A caller-owned, length-prefixed run of UTF-16 code units, from which a string can be built.
 ///
-/// The units begin 8 bytes after the start of the record. A caller may place a record with room
-/// for more or fewer units in memory of its own: only `length` units are read.
+/// The units begin 8 bytes after the start of the record. A caller may allocate a record with room
+/// for more or fewer units: only `length` units are read.
 typedef struct UniStr255 {
-  ZRLong length;              ///< number of units; -1: up to the first zero unit
-  ZRULong reserved;           ///< neither read nor written by this library
-  unsigned short units[255];  ///< UTF-16 code units; no terminating zero is needed
+  ZRLong length;              ///< Number of units; -1: up to the first zero unit.
+  ZRULong reserved;           ///< Neither read nor written by this library.
+  unsigned short units[255];  ///< UTF-16 code units; no terminating zero is needed.
 } UniStr255;
 
 #endif

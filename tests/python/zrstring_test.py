@@ -76,7 +76,7 @@ class Module(unittest.TestCase):
         with open(HEADER, encoding="utf-8") as file:
             code = re.sub(r"//[^\n]*", "", file.read())
         declared = {}
-        for name, parameters in re.findall(r"ZR_API ZRLong (\w+)\(([^)]*)\);", code):
+        for name, parameters in re.findall(r"ZR_API ZRLong ZR_CALL (\w+)\(([^)]*)\);", code):
             pairs = (re.fullmatch(r"(.*?)(\w+)", text, re.DOTALL) for text in parameters.split(","))
             declared[name] = [(pair[2], TYPES[re.sub(r"\s", "", pair[1])]) for pair in pairs]
         for name, parameters in zrstring.FUNCTIONS.items():
