@@ -37,16 +37,14 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrstring.pc
 
 # GDB loads the script by itself when it lies below its auto-load directory under the name and the
 # full path of the library; with the prefix /usr it does.
-if(EXISTS ${PROJECT_SOURCE_DIR}/platform/debugger/zrstring-gdb.py AND NOT WIN32)
-  install(FILES platform/debugger/zrstring-gdb.py
+if(NOT WIN32)
+  install(FILES tools/debugger/zrstring-gdb.py
     DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
     COMPONENT Development
     RENAME libZRString.so.${PROJECT_VERSION}-gdb.py)
 endif()
-if(EXISTS ${PROJECT_SOURCE_DIR}/platform/debugger/ZRString.natvis)
-  install(FILES platform/debugger/ZRString.natvis
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
-endif()
+install(FILES tools/debugger/ZRString.natvis
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
 
 if(PROJECT_IS_TOP_LEVEL AND CMAKE_SYSTEM_NAME STREQUAL Linux)
   include(cmake/Packages.cmake)

@@ -87,7 +87,7 @@ install_tools() {
   for arch in $arches; do
     wanted+=("g++-mingw-w64-${arch/_/-}-posix")
   done
-  "$top/cmake/install-packages.sh" "${wanted[@]}"
+  "$top/tools/install-packages.sh" "${wanted[@]}"
 }
 
 apt_get() { DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=600 "$@"; }
@@ -267,7 +267,7 @@ wine_for_i686() {
 }
 
 # Where there is none to be had, the 64-bit build is compiled only.
-wine_for_x86_64() { have_wine x86_64 || "$top/cmake/install-packages.sh" wine64 || true; }
+wine_for_x86_64() { have_wine x86_64 || "$top/tools/install-packages.sh" wine64 || true; }
 
 have_wine() {
   case $1 in

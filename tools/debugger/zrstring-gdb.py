@@ -2,7 +2,7 @@
 
 Installed below GDB's auto-load directory under the library's full path, GDB loads this file with
 the library: share/gdb/auto-load/<library directory>/libZRString.so.<version>-gdb.py. From a build
-tree: `source platform/debugger/zrstring-gdb.py`. `print/r` shows the fields instead.
+tree: `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fields instead.
 
     "text" (length 4, holders 1)        the text is cut at `set print elements`
 

@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are named and missing. Prints nothing if none is missing. Waits
+# up to ten minutes while another apt is at work.
+# usage: install-packages.sh PACKAGE...
+set -euo pipefail
+
+missing=()
+for package in "$@"; do
+  status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2> /dev/null || true)
+  [ "$status" = installed ] || missing+=("$package")
+done
+[ "${#missing[@]}" -gt 0 ] || exit 0
+
+fail() {
+  echo "These Debian packages are missing and $1: ${missing[*]}" >&2
+  exit 1
+}
+
+command -v apt-get > /dev/null || fail "there is no apt-get to install them with"
+as_root=(env)
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo > /dev/null || fail "only root can install them"
+  as_root=(sudo env)
+fi
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+
+# apt waits for dpkg's lock (DPkg::Lock::Timeout), but not for those of its own.
+apt_get() {
+  local waiting=false
+  until "${as_root[@]}" LC_ALL=C DEBIAN_FRONTEND=noninteractive \
+    apt-get -q -o DPkg::Lock::Timeout=600 "$@" > "$log" 2>&1; do
+    if [ "$SECONDS" -ge 600 ] || ! grep -q '^E: Could not get lock' "$log"; then
+      tail -n 20 "$log" >&2
+      fail "could not be installed"
+    fi
+    "$waiting" || echo "-- waiting for another apt"
+    waiting=true
+    sleep 2
+  done
+}
+
+echo "-- installing ${missing[*]}"
+apt_get update
+apt_get install -y --no-install-recommends "${missing[@]}"
