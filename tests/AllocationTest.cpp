@@ -24,6 +24,24 @@ int allocations = 0;
 int live = 0;
 int allocationsLeft = -1;  // below 0: without end
 
+/// What every operator new below takes its memory from; null if it is to fail.
+void* Allocate(std::size_t size) noexcept {
+  ++allocations;
+  if (allocationsLeft == 0)
+    return nullptr;
+  if (allocationsLeft > 0)
+    --allocationsLeft;
+  void* const memory = std::malloc(size ? size : 1);
+  live += memory != nullptr;
+  return memory ? std::memset(memory, kFresh, size) : nullptr;
+}
+
+// Inlined, GCC 14 would see free() called for what operator new returned, and warn.
+[[gnu::noinline]] void Free(void* memory) noexcept {
+  live -= memory != nullptr;
+  std::free(memory);
+}
+
 /// The number of allocations that a call makes.
 template <typename Call>
 int Allocations(Call call) {
@@ -37,24 +55,21 @@ int Allocations(Call call) {
 // The library's allocations reach these as the process's one operator new; a DLL's, where it
 // imports one.
 void* operator new(std::size_t size) {
-  ++allocations;
-  if (allocationsLeft == 0)
-    throw std::bad_alloc();
-  if (allocationsLeft > 0)
-    --allocationsLeft;
-  if (void* const memory = std::malloc(size ? size : 1))
-    return ++live, std::memset(memory, kFresh, size);
+  if (void* const memory = Allocate(size))
+    return memory;
   throw std::bad_alloc();
 }
 
+// Every form but the aligned ones: a form left out would allocate by the run-time library's.
 void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept {
-  live -= memory != nullptr;
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
-void operator delete[](void* memory) noexcept { operator delete(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void operator delete(void* memory) noexcept { Free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { Free(memory); }
+void operator delete(void* memory, const std::nothrow_t&) noexcept { Free(memory); }
+void operator delete[](void* memory) noexcept { Free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { Free(memory); }
+void operator delete[](void* memory, const std::nothrow_t&) noexcept { Free(memory); }
 
 namespace {
 

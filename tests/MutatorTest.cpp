@@ -158,9 +158,7 @@ const Edit kEdits[] = {
     {"Reverse", [](M& m, const S&) { m.Reverse(1, -1); },
      [](const Text& t, const Text&) { return t.substr(0, 1) + Text(t.rbegin(), t.rend() - 1); }},
     {"Reverse a range", [](M& m, const S&) { m.Reverse(0, 2); },
-     [](const Text& t, const Text&) {
-       return Text{t[1], t[0]} + t.substr(2);
-     }},
+     [](const Text& t, const Text&) { return Text(1, t[1]) + t[0] + t.substr(2); }},
     {"ToUpper", [](M& m, const S&) { m.ToUpper().ToLower(); },
      [](const Text& t, const Text&) { return t; }},
     {"Extract", [](M& m, const S& s) { ZRStringMutator(s).Extract(1, -1, m); },
