@@ -58,7 +58,7 @@ int main() {
   const unsigned short number[] = {'.', ' ', '5'};
 
   ZRStringMutator edited(street);  // shares the units
-  edited.ToUpper();                // takes its own first
+  edited.ToUpper();                // detaches, then edits
   edited.Replace(3, 4, number, 0, 3);
   //! [edit]
   Show("edited", edited);
@@ -97,7 +97,7 @@ int main() {
 
   //! [end]
   words.DeleteAll();
-  // The others end with their scope.
+  // The others are destroyed with their scope.
   //! [end]
   return 0;
 }
