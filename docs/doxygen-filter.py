@@ -2,8 +2,8 @@
 """Prints a public header as Doxygen is to read it. Line numbers stay as they are.
 
 An uncommented member of the interface classes gets a link to the plain function of its name, which
-the class comment says it is. Specializations of the standard library's templates are left out:
-Doxygen has no declaration to attach them to.
+the class comment says it is. Specializations of the standard library's functions are left
+out: Doxygen has no declaration to attach them to.
 """
 import re
 import sys
@@ -24,7 +24,7 @@ def main():
     for i, line in enumerate(lines):
         if line.startswith("  static ZRLong ") and "///" not in lines[i - 1]:
             lines[i] = re.sub(r"(static ZRLong (\w+)\()", r"/** ::\2() */ \1", line)
-        if line == "template <>":
+        if line == "template <>" and not lines[i + 1].startswith("struct "):
             leave_out_specialization(lines, i)
     sys.stdout.buffer.write(("\n".join(lines) + "\n").encode("utf-8"))
 
