@@ -1,48 +1,50 @@
+#include <unicode/uvernum.h>
 #include <valgrind/callgrind.h>
 
+#include <cstdio>
 #include <string>
 
 #include "Operations.h"
 
-// Runs every call a fixed number of times and has callgrind dump the instructions of each: one dump
-// for the ICU call and one for the library's, named "kind|name|side". Only what lies between the
-// two toggles is counted; run it with --collect-atstart=no.
+// Makes every call a fixed number of times and has callgrind dump the instructions of each: a dump
+// named "name|icu" for an ICU call, then one named "name|library" for each call that maps to it.
+// Only what lies between the two toggles is counted; run it with --collect-atstart=no.
 
 namespace {
 
-constexpr std::int32_t kTextLength = 20;
-constexpr int kWarmUp =
-    16;  // binds the symbols, loads ICU's data, makes buffers as large as needed
+// The first calls bind symbols, load ICU's data and make buffers as large as they need to be.
+constexpr int kWarmUp = 16;
 constexpr int kCalls = 1000;
 
-template <typename Restore>
-void Count(const std::string& dumpName, Texts& texts, ZRLong (*call)(Texts&), Restore restore) {
+template <typename Texts>
+void Count(const std::string& dump, Texts& texts, Before before, const Call<Texts>& call) {
+  const auto& text = before == Before::kText         ? texts.whole
+                     : before == Before::kDecomposed ? texts.decomposed
+                                                     : texts.spaced;
+  texts.edited = decltype(texts.edited)();
   for (int i = 0; i < kWarmUp + kCalls; ++i) {
     if (i == kWarmUp)
       CALLGRIND_ZERO_STATS;
-    restore();
+    texts.Restore(text);
     CALLGRIND_TOGGLE_COLLECT;
     call(texts);
     CALLGRIND_TOGGLE_COLLECT;
   }
-  CALLGRIND_DUMP_STATS_AT(dumpName.c_str());
-}
-
-void CountAll(const std::string& kind, const std::vector<Operation>& operations) {
-  for (const Operation& operation : operations) {
-    const std::string name = kind + "|" + operation.name;
-    Texts texts(kTextLength);
-    Count(name + "|icu", texts, operation.icu, [&] { texts.RestoreIcu(operation.before); });
-    Count(name + "|library", texts, operation.library,
-          [&] { texts.RestoreString(operation.before); });
-  }
+  CALLGRIND_DUMP_STATS_AT(dump.c_str());
 }
 
 }  // namespace
 
 int main() {
-  CountAll("member", Queries());
-  CountAll("member", Edits());
-  CountAll("handle", HandleFunctions());
-  CountAll("creation", Creations());
+  std::printf("GCC %s, ICU %s\n", __VERSION__, U_ICU_VERSION);
+  // Each side's strings are made once, those under edit last: which of two buffers has the higher
+  // address decides how many instructions ICU needs to see that they do not overlap.
+  IcuTexts icu;
+  ZRTexts library;
+  for (const auto& [name, icuCall, member, functionName, function, before] : Operations()) {
+    Count(std::string(name) + "|icu", icu, before, icuCall);
+    Count(std::string(name) + "|library", library, before, member);
+    if (functionName)
+      Count(std::string(functionName) + "|library", library, before, function);
+  }
 }

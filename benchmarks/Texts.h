@@ -6,66 +6,74 @@
 #include <unicode/coll.h>
 #include <unicode/unistr.h>
 
-#include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 constexpr ZRLong kToEnd = -1;
 
-using Units = std::vector<unsigned short>;
-
-/// One text three times over: as units, as ICU's string and as this library's.
-struct Text {
-  /// `units` with a zero unit after them.
-  explicit Text(Units units);
-  Text(const Text&) = delete;
-  Text& operator=(const Text&) = delete;
-
-  Units units;
-  icu::UnicodeString icu;
-  ZRString string;
-  ZRStringRef__* handle;  ///< that of `string`
-  ZRLong length;
-
-  const unsigned short* Raw() const { return units.data(); }
-  const char16_t* RawIcu() const { return icu::ConstChar16Ptr(units.data()); }
-};
-
-/// What the strings under edit hold before a call.
-enum class Before { kWhateverIsThere, kText, kDecomposed, kSpaced };
-
-/// Everything that the calls read and write. No two strings in it share a body or a buffer, and no
-/// range is a constant to the compiler.
+/// What the calls of one library read and write. No two texts share a body or a buffer, and no
+/// number is a constant to the compiler.
+template <typename String, typename Mutable, typename Unit>
 struct Texts {
-  explicit Texts(std::int32_t length);
+  struct Operand {
+    explicit Operand(std::u16string_view text)
+        : units(text.begin(), text.end()),
+          length(static_cast<ZRLong>(text.size())),
+          string((units.push_back(0), units.data()), length) {}
+    Operand(const Operand&) = delete;
+    Operand& operator=(const Operand&) = delete;
+    operator const String&() const { return string; }
+    const Unit* Raw() const { return units.data(); }
 
-  void RestoreIcu(Before before);
-  void RestoreString(Before before);
+    std::vector<Unit> units;  ///< with a zero unit after them
+    ZRLong length;
+    String string;
+  };
 
-  Text text;        ///< `length` units, ASCII
-  Text twin;        ///< differs from `text` in the last unit
-  Text upper;       ///< `text` in upper case
-  Text prefix;      ///< the first half of `text`
-  Text suffix;      ///< the second half of `text`
-  Text pattern;     ///< occurs once in `text`, at its end
-  Text word;        ///< occurs every 35 units in `text`
-  Text decomposed;  ///< `length` units, every second letter with a combining accent
-  Text spaced;      ///< `text` with four spaces at either end
+  Operand whole{u"the brown fox juquay"};
+  Operand twin{u"the brown fox juquaz"};
+  Operand upper{u"THE BROWN FOX JUQUAY"};
+  Operand prefix{u"the brown "};
+  Operand suffix{u"fox juquay"};
+  Operand pattern{u"quay"};
+  Operand word{u"ro"};
+  Operand decomposed{u"xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe"};
+  Operand spaced{u"    the brown fox juquay    "};
 
   ZRLong start = 0;
-  ZRLong length;  ///< of `text`
-  ZRLong last;    ///< the last index of `text`
-  ZRLong middle;
+  ZRLong length = whole.length;
+  ZRLong last = length - 1;
+  ZRLong middle = length / 2;
   ZRLong four = 4;
-  unsigned short unit = 'q';
+  ZRLong wider = length + four;
+  Unit unit = 'q';
 
-  icu::UnicodeString edited;
-  ZRStringMutator editedString;
-  ZRMutableStringRef__* editedHandle;  ///< that of `editedString`
-  ZRStringMutator sourceString;        ///< `text`, for the members that copy from a mutator
-  Units target;                        ///< room for `text` and a zero unit
+  const String text{whole.units.data(), length};
+  const Mutable source{spaced.string, four, length};  ///< `text`, for members that copy from one
+  std::vector<Unit> target = std::vector<Unit>(whole.units.size());
+  Mutable edited;
+};
 
-  std::unique_ptr<icu::Collator> collator;
+struct IcuTexts : Texts<icu::UnicodeString, icu::UnicodeString, char16_t> {
+  UErrorCode status = U_ZERO_ERROR;
+  std::unique_ptr<icu::Collator> collator{icu::Collator::createInstance(status)};
+
+  void Restore(const Operand& before) { edited.setTo(before.string, 0, before.length); }
+};
+
+struct ZRTexts : Texts<ZRString, ZRStringMutator, unsigned short> {
+  ZRStringRef__* textHandle = text.GetZRStringRef();
+  ZRStringRef__* twinHandle = twin.string.GetZRStringRef();
+  ZRStringRef__* upperHandle = upper.string.GetZRStringRef();
+  ZRStringRef__* patternHandle = pattern.string.GetZRStringRef();
+  ZRStringRef__* wordHandle = word.string.GetZRStringRef();
+  ZRMutableStringRef__* editedHandle = edited.GetZRMutableStringRef();
+  ZRLong result = 0;  ///< out-parameters of the handle functions
+  unsigned char report = 0;
+  unsigned short* buffer = nullptr;
+
+  void Restore(const Operand& before) { edited.SetTo(before.string, 0, before.length); }
 };
 
 #endif

@@ -1,54 +1,77 @@
 #!/bin/sh
-# Counts the instructions of each member and handle function over those of the ICU call it maps to.
-# Fails when a member needs more than 15 or a handle function more than 40.
+# Counts the instructions of each member and handle function beyond those of the ICU call it maps to.
+# Fails when a call passes its limit in instructions.txt, or its record there by more than 2.
+# usage: count-instructions.sh [--record]      --record writes the numbers into instructions.txt
 set -eu
-
 cd "$(dirname "$0")/.."
-counts=$(mktemp -d)
-trap 'rm -rf "$counts"' EXIT
 
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 quietly() {
-  "$@" >"$counts/log" 2>&1 || { cat "$counts/log" >&2; exit 2; }
+  "$@" >"$work/log" 2>&1 || { cat "$work/log" >&2; exit 2; }
 }
-
 quietly cmake --preset benchmark
 quietly cmake --build --preset benchmark --target count-calls
-quietly valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$counts/out" \
-  build/benchmark/benchmarks/count-calls
+quietly valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$work/out" \
+  --log-file="$work/valgrind" build/benchmark/benchmarks/count-calls
 
-# The dumps are out.1, out.2, ... in the order of the calls, ICU's before the library's.
-calls=1000
+system="$(. /etc/os-release && echo "${NAME%% *} ${VERSION_ID-}"), $(uname -m), $(cat "$work/log")"
+# The dumps are out.1, out.2 and so on, in the order of the calls. A line of counts: NAME|SIDE|NUMBER.
 i=1
-while [ -f "$counts/out.$i" ]; do
-  sed -n 's/^desc: Trigger: Client Request: //p; s/^summary: /|/p' "$counts/out.$i" | tr -d '\n'
+while [ -f "$work/out.$i" ]; do
+  sed -n 's/^desc: Trigger: Client Request: //p; s/^summary: /|/p' "$work/out.$i" | tr -d '\n'
   echo
   i=$((i + 1))
-done | awk -F '|' -v calls="$calls" '
-  BEGIN {
-    limits["member"] = 15
-    limits["handle"] = 40
-    format = "%-68s %10s %10s %10s %6s\n"
-    printf format, "call", "ICU", "library", "over ICU", "limit"
+done > "$work/counts"
+
+awk -v here="$system" -v option="${1-}" -v calls=1000 -v table="$work/table" '
+  FILENAME != "benchmarks/instructions.txt" {
+    split($0, field, "|")
+    if (field[2] == "icu") {
+      icu = field[3]
+    } else {
+      counted[field[1]] = sprintf("%.0f", (field[3] - icu) / calls)
+      whole[field[1]] = sprintf("%8.0f %8.0f", icu / calls, field[3] / calls)
+    }
+    next
   }
-  $3 == "icu" { icu = $4; next }
-  {
-    over = ($4 - icu) / calls
-    limit = limits[$1]
-    printf format, $2, icu / calls, $4 / calls, over, limit == "" ? "-" : limit
-    counted++
-    if (limit != "" && over > limit) {
-      exceeding++
-      report = report "  " $2 ": " over "\n"
+  function complain(text) { complaints = complaints "  " text "\n" }
+  /^recorded with / {
+    judging = option == "--record" || $0 == "recorded with " here
+    recordedWith = $0
+    $0 = option == "--record" ? "recorded with " here : $0
+    printf "%8s %8s %8s %8s %8s\n", "ICU", "library", "more", "recorded", "limit"
+  }
+  /^[-0-9]/ { limit = $1 }
+  /^ / {
+    recorded = $1
+    name = $0
+    sub(/^ *[^ ]+ /, "", name)
+    if (name in counted) {
+      more = counted[name] + 0
+      printf "%s %8d %8d %8s  %s\n", whole[name], more, recorded, limit, name
+      if (limit != "-" && more > limit + 0)
+        complain(name ": " more ", the limit is " limit)
+      if (option != "--record" && more > recorded + 2)
+        complain(name ": " more ", " recorded " recorded")
+      delete counted[name]
+      $0 = sprintf("%4d %s", more, name)
+    } else {
+      complain(name ": not counted")
     }
   }
+  { print > table }
   END {
-    if (!counted) {
-      print "nothing was counted"
-      exit 2
-    }
-    if (exceeding) {
-      printf "\n%d over the limit:\n%s", exceeding, report
+    for (name in counted)
+      complain(name ": not in instructions.txt")
+    if (!judging) {
+      print "\nnot judged: " recordedWith ", this is " here
+    } else if (complaints != "") {
+      printf "\nfailed:\n%s", complaints
       exit 1
+    } else {
+      print "\nall within their limits" (option == "--record" ? "" : " and records")
     }
-    print "\nall within the limits"
-  }'
+  }' "$work/counts" benchmarks/instructions.txt || failed=1
+[ "${1-}" != --record ] || cp "$work/table" benchmarks/instructions.txt
+exit "${failed-0}"
