@@ -1,11 +1,9 @@
 #!/usr/bin/env python3
 """Prints a public header as Doxygen is to read it. Line numbers stay as they are.
 
-An uncommented member of the interface classes gets a link to the plain function of its name, which
-the class comment says it is. Specializations of the standard library's functions are left
-out: Doxygen has no declaration to attach them to.
+Specializations of the standard library's functions are left out: Doxygen has no declaration to
+attach them to.
 """
-import re
 import sys
 
 
@@ -22,8 +20,6 @@ def main():
     with open(sys.argv[1], encoding="utf-8") as file:
         lines = file.read().splitlines()
     for i, line in enumerate(lines):
-        if line.startswith("  static ZRLong ") and "///" not in lines[i - 1]:
-            lines[i] = re.sub(r"(static ZRLong (\w+)\()", r"/** ::\2() */ \1", line)
         if line == "template <>" and not lines[i + 1].startswith("struct "):
             leave_out_specialization(lines, i)
     sys.stdout.buffer.write(("\n".join(lines) + "\n").encode("utf-8"))

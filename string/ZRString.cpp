@@ -5,15 +5,13 @@
 #include <cstring>
 
 #include "string/CodeUnits.h"
+#include "string/Handles.h"
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
 namespace {
 
 constexpr const char* kCodePage = "windows-1252";
-
-constexpr ZRLong kFirstParameterInvalid = 4;
-constexpr ZRLong kSecondParameterInvalid = 5;
 
 const char* FromByte(const char* text, ZRLong start) { return text ? text + start : nullptr; }
 
@@ -98,12 +96,13 @@ void ZRString::CreateNewImplementation(const ZRString& source, ZRLong start, ZRL
 void ZRString::CreateNewImplementation(ZRStringRef__* handle) {
   if (!handle)
     return CreateNewImplementation();
-  body_ = GetZRStringFromRef(handle).body_->TakeShare();
+  body_ = StringOf(handle).body_->TakeShare();
 }
 
 void ZRString::CreateNewImplementation(ZRMutableStringRef__* handle) {
-  // A mutable string's handle is the address of its ZRString part too.
-  CreateNewImplementation(reinterpret_cast<ZRStringRef__*>(handle));
+  if (!handle)
+    return CreateNewImplementation();
+  body_ = StringOf(handle).body_->TakeShare();
 }
 
 const ZRString& ZRString::operator=(const ZRString& other) {
@@ -177,19 +176,15 @@ void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
   (dst + dstStart)[limit - start] = 0;
 }
 
-ZRStringRef__* ZRString::GetZRStringRef() const {
-  return reinterpret_cast<ZRStringRef__*>(const_cast<ZRString*>(this));
-}
+ZRStringRef__* ZRString::GetZRStringRef() const { return HandleOf(this); }
 
-const ZRString& GetZRStringFromRef(ZRStringRef__* handle) {
-  return *reinterpret_cast<ZRString*>(handle);
-}
+const ZRString& GetZRStringFromRef(ZRStringRef__* handle) { return StringOf(handle); }
 
 ZRLong ZRStringRefToZRString(ZRStringRef__* handle, ZRString** result) {
   if (!result)
-    return kSecondParameterInvalid;
+    return StatusOfParameter(2);
   if (!handle)
-    return kFirstParameterInvalid;
-  *result = reinterpret_cast<ZRString*>(handle);
-  return 0;
+    return StatusOfParameter(1);
+  *result = &StringOf(handle);
+  return kZRStatusSuccess;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "string/CodeUnits.h"
+#include "string/Handles.h"
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
@@ -202,10 +203,8 @@ const unsigned short* ZRStringMutator::GetTerminatedBuffer() {
 
 ZRLong ZRStringMutator::GetCapacity() const { return body_->text.getCapacity(); }
 
-ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() {
-  return reinterpret_cast<ZRMutableStringRef__*>(this);
-}
+ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() { return HandleOf(this); }
 
 ZRStringMutator& GetZRStringMutatorFromRef(ZRMutableStringRef__* handle) {
-  return *reinterpret_cast<ZRStringMutator*>(handle);
+  return StringOf(handle);
 }

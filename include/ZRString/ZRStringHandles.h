@@ -80,7 +80,7 @@ ZR_API ZRLong ZR_CALL ZRStringDestroy(ZRStringRef__* string);
 
 /// Compares two ranges in code unit order: `*result` becomes -1, 0 or 1.
 ///
-/// Calls ZRString::CompareBetween. Both lengths may be -1.
+/// Calls ZRString::Compare. Both lengths may be -1.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 src is null;
 ///         8 srcStart is negative; 9 srcLength is below -1; 10 result is null.
 ZR_API ZRLong ZR_CALL ZRStringCompare(ZRStringRef__* string, ZRLong start, ZRLong length,
@@ -89,7 +89,7 @@ ZR_API ZRLong ZR_CALL ZRStringCompare(ZRStringRef__* string, ZRLong start, ZRLon
 
 /// Compares two ranges in code point order: `*result` becomes -1, 0 or 1.
 ///
-/// Calls ZRString::CompareCodePointOrderBetween. Both lengths may be -1.
+/// Calls ZRString::CompareCodePointOrder. Both lengths may be -1.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 src is null;
 ///         8 srcStart is negative; 9 srcLength is below -1; 10 result is null.
 ZR_API ZRLong ZR_CALL ZRStringCompareCodePointOrder(ZRStringRef__* string, ZRLong start,
@@ -100,7 +100,7 @@ ZR_API ZRLong ZR_CALL ZRStringCompareCodePointOrder(ZRStringRef__* string, ZRLon
 /// Compares two ranges without regard to case, or, with options 3, in linguistic order: `*result`
 /// becomes -1, 0 or 1.
 ///
-/// Calls ZRString::ICompareBetween, where `options` are listed; every value is accepted. Both
+/// Calls ZRString::ICompare, where `options` are listed; every value is accepted. Both
 /// lengths may be -1.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 src is null;
 ///         8 srcStart is negative; 9 srcLength is below -1; 11 result is null.

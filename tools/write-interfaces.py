@@ -1,0 +1,194 @@
+#!/usr/bin/env python3
+"""Writes the three interface classes, which repeat the functions of ZRStringHandles.h.
+
+    write-interfaces.py [--check]
+
+Run it after a change of that header and commit what it writes: include/ZRString/ZRStringInterfaces.h
+and handles/InterfaceClasses.cpp. --check only compares, and fails when they are out of date.
+"""
+
+import dataclasses
+import pathlib
+import sys
+
+import handle_header
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+HANDLES = ROOT / "include/ZRString/ZRStringHandles.h"
+INTERFACES = ROOT / "include/ZRString/ZRStringInterfaces.h"
+CLASSES = ROOT / "handles/InterfaceClasses.cpp"
+WIDTH = 100
+
+
+@dataclasses.dataclass
+class InterfaceClass:
+    name: str
+    group: str  # the functions that its members repeat
+    comment: str
+    more_declarations: str = ""
+    more_definitions: str = ""
+
+
+INTERFACE_CLASSES = [
+    InterfaceClass(
+        "ZRAccessorStringDKInterfaceImpl",
+        "Immutable strings",
+        "/// Immutable strings. Every member has the name of its plain function.\n",
+    ),
+    InterfaceClass(
+        "ZRMutableStringDKInterfaceImpl",
+        "Mutable strings",
+        "/// Mutable strings. Every member but ZRStringRefConst() has the name of its plain function.\n",
+        more_declarations="""\
+
+  /// The immutable handle of a mutable string, null for null. Returns no status, and has no plain
+  /// function.
+  static ZRStringRef__* ZRStringRefConst(ZRMutableStringRef__* string);
+""",
+        more_definitions="""\
+
+ZRStringRef__* ZRMutableStringDKInterfaceImpl::ZRStringRefConst(ZRMutableStringRef__* string) {
+  return string ? StringOf(string).GetZRStringRef() : nullptr;
+}
+""",
+    ),
+    InterfaceClass(
+        "ZRStringCDKInterfaceImpl",
+        "Arrays of strings",
+        "/// Arrays of strings. The members have names of their own.\n",
+    ),
+]
+
+HEADER_BEGIN = """\
+#ifndef ZRSTRING_ZRSTRINGINTERFACES_H
+#define ZRSTRING_ZRSTRINGINTERFACES_H
+
+#include <ZRString/ZRStringHandles.h>
+
+/// @file
+/// The functions of the handle interface as static members of three classes. ZRStringHandles.h
+/// says what each does and returns. The classes have no data, and no objects of them are made; DK
+/// and CDK are part of their published names.
+
+// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+"""
+
+SOURCE_BEGIN = """\
+// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+
+#include <ZRString/ZRStringInterfaces.h>
+
+#include "string/Handles.h"
+"""
+
+
+def member_name(interface, function):
+    if interface.group != "Arrays of strings":
+        return function.name
+    if function.name == "ZRStrPtrArrCreateFromZRStrPtrArr":
+        return "ZRSPtrArrayCreateFromZRSPtrArray"
+    return "ZRSPtrArray" + function.name.removeprefix("ZRStringPtrArray")
+
+
+def lines_of(items, width):
+    """The items, with a space between two, on lines of at most `width` columns."""
+    lines = items[:1]
+    for item in items[1:]:
+        if len(f"{lines[-1]} {item}") <= width:
+            lines[-1] += f" {item}"
+        else:
+            lines.append(item)
+    return lines
+
+
+def listed(head, items, tail, indent, worth):
+    """head + items + tail as clang-format breaks it: aligned with the first item, or from the next
+    line on where that is the only way or saves `worth` line breaks."""
+    items = [f"{item}," for item in items[:-1]] + [items[-1] + tail]
+    aligned = lines_of(items, WIDTH - len(head))
+    below = lines_of(items, WIDTH - indent)
+    fits = max(map(len, aligned)) <= WIDTH - len(head)
+    if fits and len(aligned) - 1 - len(below) < worth:
+        return head + ("\n" + " " * len(head)).join(aligned)
+    return "\n".join([head] + [" " * indent + line for line in below])
+
+
+def declared_parameters(function):
+    return [f"{kind} {name}" for kind, name in function.parameters]
+
+
+def declaration(interface, function):
+    head = f"  static ZRLong {member_name(interface, function)}("
+    return (
+        f"  /// Calls ::{function.name}().{departure_note(function)}\n"
+        f"{listed(head, declared_parameters(function), ');', 6, 3)}\n"
+    )
+
+
+def departures(function):
+    """The statuses that a member does not share with its function."""
+    return [
+        (status, test) for status, test in function.tests.items() if test.member_status != status
+    ]
+
+
+def departure_note(function):
+    return "".join(
+        f" Returns {test.member_status}, not {status}, if `{test.parameter}` is {test.cause}."
+        for status, test in departures(function)
+    )
+
+
+def definition(interface, function):
+    head = f"ZRLong {interface.name}::{member_name(interface, function)}("
+    signature = listed(head, declared_parameters(function), ") {", 4, 3)
+    names = [name for _, name in function.parameters]
+    differing = departures(function)
+    if not differing:
+        body = listed(f"  return ::{function.name}(", names, ");", 6, 1) + "\n"
+    else:
+        ((status, test),) = differing
+        body = (
+            listed(f"  const ZRLong status = ::{function.name}(", names, ");", 6, 1) + "\n"
+            f"  return status == {status} ? {test.member_status} : status;\n"
+        )
+    return f"\n{signature}\n{body}}}\n"
+
+
+def assignment(name):
+    head, parameter = f"{name}& {name}::operator=(", f"const {name}&) ="
+    if len(head + parameter) <= WIDTH:
+        return f"{head}{parameter}\n    default;"
+    return f"{head}\n    {parameter} default;"
+
+
+def written(functions):
+    header, source = HEADER_BEGIN, SOURCE_BEGIN
+    for interface in INTERFACE_CLASSES:
+        members = [function for function in functions if function.group == interface.group]
+        name = interface.name
+        header += f"\n{interface.comment}class ZR_API {name} {{\n public:\n"
+        header += f"  /// Copies nothing.\n  {name}& operator=(const {name}&);\n\n"
+        header += "".join(declaration(interface, function) for function in members)
+        header += f"{interface.more_declarations}}};\n"
+        source += f"\n{assignment(name)}\n"
+        source += "".join(definition(interface, function) for function in members)
+        source += interface.more_definitions
+    return {INTERFACES: header + "\n#endif\n", CLASSES: source}
+
+
+def main():
+    check = sys.argv[1:] == ["--check"]
+    if sys.argv[1:] and not check:
+        sys.exit(__doc__)
+    stale = []
+    for path, text in written(handle_header.functions(HANDLES)).items():
+        if not path.exists() or path.read_text(encoding="utf-8") != text:
+            stale.append(str(path.relative_to(ROOT)))
+            if not check:
+                path.write_text(text, encoding="utf-8")
+    if check and stale:
+        sys.exit(f"{' and '.join(stale)} out of date: run tools/write-interfaces.py")
+
+
+main()
