@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
-// Whether standard error is a terminal is a question that only the system answers.
+// Whether standard error is a terminal.
 #ifdef _WIN32
 #include <io.h>
 inline bool IsTerminal() { return _isatty(2) != 0; }
@@ -13,7 +13,7 @@ inline bool IsTerminal() { return _isatty(2) != 0; }
 inline bool IsTerminal() { return isatty(2) != 0; }
 #endif
 
-/// The part of a stage that is done, on standard error; nothing where that is no terminal.
+/// Shows on standard error which part of a stage is done, if that is a terminal.
 class Progress {
  public:
   Progress(const char* stage, double steps) : stage_(stage), steps_(steps), shown_(IsTerminal()) {}

@@ -1,6 +1,6 @@
-/* Looks a word up in a word list in windows-1252, one entry a line, through the handle interface.
- * The list is sorted in linguistic order, and entries that are equal without regard to case are
- * dropped. */
+/* Looks up a word in a word list in windows-1252, with one entry per line, through the handle
+ * interface. The list is sorted in linguistic order, and entries that differ from an earlier one
+ * only in case are dropped. */
 
 #include <ZRString/ZRStringHandles.h>
 #include <errno.h>
@@ -8,14 +8,12 @@
 #include <stdlib.h>
 #include <string.h>
 
-enum { kIgnoreCase = 0, kCollated = 3, kToEnd = -1 };
-
 static void Fail(const char* what, const char* subject) {
   fprintf(stderr, "lookup: %s%s\n", what, subject);
   exit(2);
 }
 
-/* A status other than 0 names a parameter: here that is a fault of this program. */
+/* A status other than 0 means an invalid argument, which would be a bug of this program. */
 static void Check(ZRLong status) {
   if (status != kZRStatusSuccess) {
     fprintf(stderr, "lookup: unexpected status %ld\n", (long)status);
@@ -25,18 +23,19 @@ static void Check(ZRLong status) {
 
 static ZRLong Compare(ZRStringRef__* left, ZRStringRef__* right, ZRULong options) {
   ZRLong result = 0;
-  Check(ZRStringICompare(left, 0, kToEnd, right, 0, kToEnd, options, &result));
+  Check(ZRStringICompare(left, 0, kZRToEnd, right, 0, kZRToEnd, options, &result));
   return result;
 }
 
 static int InOrder(const void* left, const void* right) {
-  return (int)Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kCollated);
+  return (int)Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right,
+                      kZRCompareCollated);
 }
 
-/* Brings entries together that are equal without regard to case, the first in order first. */
+/* Puts entries that differ only in case next to each other, in linguistic order. */
 static int ByText(const void* left, const void* right) {
   const ZRLong order =
-      Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kIgnoreCase);
+      Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kZRCompareIgnoreCase);
   return order != 0 ? (int)order : InOrder(left, right);
 }
 
@@ -90,8 +89,8 @@ static ZRULong SizeOf(ZRStringPtrArrayRef__* words) {
   return size;
 }
 
-/* Drops what an earlier entry in order equals without regard to case, and sorts. Arrays have no
- * sort of their own: the handles are sorted outside and put back. */
+/* Sorts the list and drops entries that differ from an earlier one only in case. Arrays have no
+ * sort function: the handles are taken out, sorted and put back. */
 static void Sort(ZRStringPtrArrayRef__* words) {
   const ZRULong size = SizeOf(words);
   ZRULong kept = 0;
@@ -103,7 +102,7 @@ static void Sort(ZRStringPtrArrayRef__* words) {
   Check(ZRStringPtrArrayEraseAll(words));
   qsort(handles, size, sizeof *handles, ByText);
   for (ZRULong i = 0; i < size; ++i) {
-    if (kept > 0 && Compare(handles[kept - 1], handles[i], kIgnoreCase) == 0)
+    if (kept > 0 && Compare(handles[kept - 1], handles[i], kZRCompareIgnoreCase) == 0)
       Check(ZRStringDestroy(handles[i]));
     else
       handles[kept++] = handles[i];
@@ -119,7 +118,7 @@ static ZRULong LowerBound(ZRStringPtrArrayRef__* words, ZRStringRef__* word) {
   ZRULong count = SizeOf(words);
   while (count > 0) {
     const ZRULong half = count / 2;
-    if (Compare(EntryAt(words, first + half), word, kCollated) < 0) {
+    if (Compare(EntryAt(words, first + half), word, kZRCompareCollated) < 0) {
       first += half + 1;
       count -= half + 1;
     } else {
@@ -137,16 +136,18 @@ int main(int argc, char** argv) {
   ZRStringPtrArrayRef__* words = NULL;
   ZRStringRef__* word = NULL;
   Check(ZRStringPtrArrayCreate(&words));
-  Check(ZRStringCreateFromLocalString((const unsigned char*)argv[2], 0, kToEnd, &word));
+  Check(ZRStringCreateFromLocalString((const unsigned char*)argv[2], 0, kZRToEnd, &word));
   Decode(bytes, size, words);
   free(bytes);
   const ZRULong decoded = SizeOf(words);
   Sort(words);
 
   const ZRULong place = LowerBound(words, word);
-  const int found = place < SizeOf(words) && Compare(EntryAt(words, place), word, kCollated) == 0;
+  const int found =
+      place < SizeOf(words) && Compare(EntryAt(words, place), word, kZRCompareCollated) == 0;
   printf("%lu entries, %lu kept\n", (unsigned long)decoded, (unsigned long)SizeOf(words));
-  printf(found ? "entry %lu\n" : "not there; it would be entry %lu\n", (unsigned long)place + 1);
+  printf(found ? "entry %lu\n" : "not in the list; it would be entry %lu\n",
+         (unsigned long)place + 1);
 
   Check(ZRStringDestroy(word));
   Check(ZRStringPtrArrayDeleteAll(words));

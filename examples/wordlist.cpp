@@ -1,8 +1,8 @@
-// Sorts a word list in windows-1252, one entry a line, in linguistic order, drops the entries that
-// are equal without regard to case, keeps the list in a file and looks a word up in it.
+// Sorts a word list in windows-1252, with one entry per line, in linguistic order, drops entries
+// that differ from an earlier one only in case, saves the list to a file and looks up a word in it.
 
+#include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringMutator.h>
-#include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <ZRString/ZRStringStream.h>
 
@@ -10,37 +10,48 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
-#include <iterator>
 #include <memory>
+#include <new>
 #include <optional>
 #include <set>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
-#include "FileStream.h"
+#include "CommandLine.h"
+#include "LittleEndianStream.h"
 #include "Progress.h"
-#include "Utf8.h"
 
 namespace {
 
-constexpr ZRULong kIgnoreCase = 0;
-constexpr ZRULong kCollated = 3;
-constexpr ZRLong kToEnd = -1;
 constexpr ZRLong kShown = 5;
 
 constexpr const char* kUsage =
     "usage: wordlist FILE [--replace OLD NEW] [--save LIST] [--find WORD]\n"
     "       wordlist --load LIST [--find WORD]\n";
 
+constexpr const char* kHelp =
+    "\n"
+    "Sorts the lines of FILE, which are in windows-1252, in the linguistic order of the\n"
+    "default locale, and drops those that differ from an earlier one only in case.\n"
+    "\n"
+    "  --replace OLD NEW  replace OLD by NEW in every line first\n"
+    "  --save LIST        save the result to the file LIST\n"
+    "  --load LIST        start from a saved list\n"
+    "  --find WORD        print the place of WORD in the list\n"
+    "  -h, --help         print this help\n";
+
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
 struct Options {
+  bool help = false;
   std::string source;
   std::string load;
   std::string save;
@@ -49,40 +60,44 @@ struct Options {
   std::optional<ZRString> newText;
 };
 
-Options Parse(int argc, char** argv) {
+Options Parse(const std::vector<std::string>& arguments) {
   Options options;
-  for (int i = 1; i < argc; ++i) {
-    const std::string argument = argv[i];
-    const auto next = [&]() -> std::string {
-      if (++i >= argc)
-        throw UsageError(argument + " needs more after it");
-      return argv[i];
+  for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+    const std::string& name = *argument;
+    const auto next = [&] {
+      if (++argument == arguments.end())
+        throw UsageError("an argument is missing after " + name);
+      return *argument;
     };
-    if (argument == "--find") {
+    if (name == "-h" || name == "--help") {
+      options.help = true;
+      return options;
+    }
+    if (name == "--find") {
       options.find.emplace(FromUtf8(next()));
-    } else if (argument == "--replace") {
+    } else if (name == "--replace") {
       options.oldText.emplace(FromUtf8(next()));
       options.newText.emplace(FromUtf8(next()));
-    } else if (argument == "--save") {
+    } else if (name == "--save") {
       options.save = next();
-    } else if (argument == "--load") {
+    } else if (name == "--load") {
       options.load = next();
-    } else if (argument.rfind("--", 0) == 0) {
-      throw UsageError("unknown option " + argument);
+    } else if (name.rfind('-', 0) == 0) {
+      throw UsageError("unknown option " + name);
     } else if (options.source.empty()) {
-      options.source = argument;
+      options.source = name;
     } else {
-      throw UsageError("one file at a time");
+      throw UsageError("more than one word list");
     }
   }
   if (options.source.empty() == options.load.empty())
-    throw UsageError("either a word list or --load");
+    throw UsageError("give either a word list or --load");
   if (!options.load.empty() && (!options.save.empty() || options.oldText))
-    throw UsageError("--save and --replace go with a word list");
+    throw UsageError("--save and --replace cannot be used with --load");
   return options;
 }
 
-/// The strings of the list; they belong to it.
+/// A list that owns its strings.
 class WordList : public ZRStringPtrArray {
  public:
   WordList() = default;
@@ -97,47 +112,49 @@ class WordList : public ZRStringPtrArray {
 };
 
 signed char Compare(const ZRString& left, const ZRString& right, ZRULong options) {
-  return left.ICompare(0, kToEnd, right, 0, kToEnd, options);
+  return left.ICompare(0, kZRToEnd, right, 0, kZRToEnd, options);
 }
 
-/// Prints to standard output as UTF-8, and the time since the last stage with each stage.
+void FlushOutput() {
+  if (!std::cout.flush())
+    throw std::runtime_error("cannot write to standard output");
+}
+
+/// Prints each stage with its result and the time since the one before.
 class Report {
  public:
-  Report() : buffer_(*std::cout.rdbuf()), out_(&buffer_) {}
-
-  std::basic_ostream<unsigned short>& Out() { return out_; }
-
   void Stage(const char* name, ZRULong count) {
     const auto now = std::chrono::steady_clock::now();
-    const double milliseconds = std::chrono::duration<double, std::milli>(now - last_).count();
-    char number[32];
-    out_ << std::left << std::setw(12) << Text(name) << std::right;
-    std::snprintf(number, sizeof number, "%lu", static_cast<unsigned long>(count));
-    out_ << std::setw(9) << Text(number);
-    std::snprintf(number, sizeof number, "%.1f ms", milliseconds);
-    out_ << std::setw(14) << Text(number) << std::endl;
+    const std::chrono::duration<double, std::milli> time = now - last_;
+    std::cout << std::left << std::setw(12) << name << std::right << std::setw(9) << count
+              << std::setw(11) << std::fixed << std::setprecision(1) << time.count() << " ms\n";
+    FlushOutput();
     last_ = std::chrono::steady_clock::now();
   }
 
-  static ZRString Text(const char* text) { return ZRString(text, 0, kToEnd); }
-
  private:
-  Utf8Buffer buffer_;
-  std::basic_ostream<unsigned short> out_;
   std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
 };
 
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
+std::filesystem::path PathOf(const std::string& name) {
+  const auto path = std::filesystem::u8path(name);
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored))
+    throw std::runtime_error(name + " is a folder");
+  return path;
+}
+
+std::string ReadFile(const std::string& name) {
+  std::ifstream file(PathOf(name), std::ios::binary);
   std::ostringstream bytes;
-  // A folder can be opened on some systems, but not read.
-  if (!file || (file.peek() != EOF && !(bytes << file.rdbuf())) || file.bad())
-    throw std::runtime_error("cannot read " + path);
+  const bool empty = file && file.peek() == std::char_traits<char>::eof();
+  if (!file.is_open() || file.bad() || !(empty || bytes << file.rdbuf()))
+    throw std::runtime_error("cannot read " + name);
   return bytes.str();
 }
 
-/// One entry for each line that is not empty. A line ends in LF or CR LF, the last one also in the
-/// file's end.
+/// Adds an entry for each line that is not empty. Lines end in LF or CR LF; the last one may end
+/// with the file.
 ZRULong Decode(const std::string& bytes, WordList& words) {
   ZRULong lines = 0;
   for (std::size_t start = 0; start < bytes.size(); ++lines) {
@@ -151,7 +168,7 @@ ZRULong Decode(const std::string& bytes, WordList& words) {
   return lines;
 }
 
-/// Trims, normalizes and replaces. What is empty then is no entry.
+/// Trims and normalizes every entry, replaces text in it, and deletes those that end up empty.
 void Edit(WordList& words, const Options& options) {
   std::size_t kept = 0;
   for (auto entry = words.Begin(); entry != words.End(); ++entry) {
@@ -159,7 +176,8 @@ void Edit(WordList& words, const Options& options) {
     word.Trim();
     word.Normalize(kZRNormalizationNFC);
     if (options.oldText)
-      word.FindAndReplace(0, kToEnd, *options.oldText, 0, kToEnd, *options.newText, 0, kToEnd);
+      word.FindAndReplace(0, kZRToEnd, *options.oldText, 0, kZRToEnd, *options.newText, 0,
+                          kZRToEnd);
     if (!word.IsEmpty())
       std::swap(words.Begin()[kept++], *entry);
   }
@@ -174,43 +192,57 @@ void Sort(WordList& words) {
   Progress progress("sorting", size * std::log2(size + 1));
   std::stable_sort(words.Begin(), words.End(), [&](const ZRString* left, const ZRString* right) {
     progress.Step();
-    return Compare(*left, *right, kCollated) < 0;
+    return Compare(*left, *right, kZRCompareCollated) < 0;
   });
 }
 
-/// Drops every entry that an earlier one equals but for case.
+/// Deletes every entry that differs from an earlier one only in case.
 void DropRepeated(WordList& words) {
   const auto before = [](const ZRString* left, const ZRString* right) {
-    return Compare(*left, *right, kIgnoreCase) < 0;
+    return Compare(*left, *right, kZRCompareIgnoreCase) < 0;
   };
   Progress progress("comparing", words.Size());
   std::set<ZRString*, decltype(before)> seen(before);
   auto kept = words.Begin();
   for (auto entry = words.Begin(); entry != words.End(); ++entry) {
     progress.Step();
-    if (seen.insert(*entry).second)
-      *kept++ = *entry;
-    else
+    if (seen.insert(*entry).second) {
+      std::swap(*kept++, *entry);
+    } else {
       delete *entry;
+      *entry = nullptr;
+    }
   }
   while (words.End() != kept)
     words.Erase(words.End() - 1);
 }
 
-void Load(const std::string& path, WordList& words) {
-  FileStream stream(path, std::ios::in);
+void Load(const std::string& name, WordList& words) {
+  const std::string bytes = ReadFile(name);
+  LittleEndianStream stream;
+  stream.bytes.assign(bytes.begin(), bytes.end());
   try {
     stream >> words;
   } catch (const std::bad_alloc&) {
-    throw std::runtime_error(path + " is damaged: a length in it is none, or there is no memory");
+    throw std::runtime_error(name + " is damaged (negative length), or memory ran out");
+  } catch (const std::runtime_error& error) {
+    throw std::runtime_error(name + " is damaged: " + error.what());
   }
-  stream.ExpectEnd();
+  if (!stream.AtEnd())
+    throw std::runtime_error(name + " is damaged: there is data after the last record");
 }
 
-void Save(const std::string& path, WordList& words) {
-  FileStream stream(path, std::ios::out | std::ios::trunc);
+void Save(const std::string& name, WordList& words) {
+  LittleEndianStream stream;
   stream << words;
-  stream.Close();
+  std::ofstream file(PathOf(name), std::ios::binary);
+  if (!file)
+    throw std::runtime_error("cannot open " + name);
+  file.write(reinterpret_cast<const char*>(stream.bytes.data()),
+             static_cast<std::streamsize>(stream.bytes.size()));
+  file.close();
+  if (!file)
+    throw std::runtime_error("cannot write " + name);
 }
 
 bool SameEntries(const WordList& left, const WordList& right) {
@@ -218,33 +250,27 @@ bool SameEntries(const WordList& left, const WordList& right) {
                     [](const ZRString* a, const ZRString* b) { return *a == *b; });
 }
 
-void PrintEnds(Report& report, const WordList& words) {
+void PrintEnds(const WordList& words) {
   const auto print = [&](ZRLong index) {
-    char number[16];
-    std::snprintf(number, sizeof number, "%ld", static_cast<long>(index) + 1);
-    report.Out() << std::setw(12) << Report::Text(number) << Report::Text("  ") << *words[index]
-                 << std::endl;
+    std::cout << std::setw(12) << index + 1 << "  " << *words[index] << '\n';
   };
   const auto size = static_cast<ZRLong>(words.Size());
   for (ZRLong i = 0; i < std::min(size, kShown); ++i)
     print(i);
   if (size > 2 * kShown)
-    report.Out() << std::setw(12) << Report::Text("...") << std::endl;
+    std::cout << std::setw(12) << "..." << '\n';
   for (ZRLong i = std::max(kShown, size - kShown); i < size; ++i)
     print(i);
 }
 
-void PrintPlace(Report& report, const WordList& words, const ZRString& word) {
+void PrintPlace(const WordList& words, const ZRString& word) {
   const auto place = std::lower_bound(words.Begin(), words.End(), &word,
                                       [](const ZRString* left, const ZRString* right) {
-                                        return Compare(*left, *right, kCollated) < 0;
+                                        return Compare(*left, *right, kZRCompareCollated) < 0;
                                       });
-  const bool found = place != words.End() && Compare(**place, word, kCollated) == 0;
-  char number[64];
-  std::snprintf(number, sizeof number,
-                found ? " is entry %ld" : " is not there; it would be entry %ld",
-                static_cast<long>(place - words.Begin()) + 1);
-  report.Out() << word << Report::Text(number) << std::endl;
+  const bool found = place != words.End() && Compare(**place, word, kZRCompareCollated) == 0;
+  std::cout << word << (found ? " is entry " : " is not in the list; it would be entry ")
+            << place - words.Begin() + 1 << '\n';
 }
 
 void Run(const Options& options) {
@@ -269,21 +295,24 @@ void Run(const Options& options) {
     WordList reloaded;
     Load(options.save, reloaded);
     if (!SameEntries(words, reloaded))
-      throw std::runtime_error(options.save + " does not hold what was saved");
+      throw std::runtime_error(options.save + " does not contain what was saved");
     report.Stage("reloaded", reloaded.Size());
   }
-  PrintEnds(report, words);
+  PrintEnds(words);
   if (options.find)
-    PrintPlace(report, words, *options.find);
+    PrintPlace(words, *options.find);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    Run(Parse(argc, argv));
-    if (!std::cout.flush())
-      throw std::runtime_error("cannot write to standard output");
+    const Options options = Parse(Arguments(argc, argv));
+    if (options.help)
+      std::cout << kUsage << kHelp;
+    else
+      Run(options);
+    FlushOutput();
     return 0;
   } catch (const UsageError& error) {
     std::cerr << "wordlist: " << error.what() << '\n' << kUsage;

@@ -12,7 +12,7 @@ failures=0
 expect() {
   local what=$1 status=$2 expected=$3 actual code=0
   shift 3
-  actual=$(env "$locale" "$@" 2>&1) || code=$?
+  actual=$(env "$locale" "$@" 2>&1 | tr '\0' '@') || code=$?
   actual=$(sed -E "s/ +[0-9.]+ ms$//; s#$work/##g" <<< "$actual")
   if [ "$code" != "$status" ] || [ "$actual" != "$expected" ]; then
     printf 'FAILED: %s: exit status %s, expected %s\n' "$what" "$code" "$status"
@@ -32,7 +32,7 @@ kept                9
 saved               9
 reloaded            9
            1  €uro
-           2  a
+           2  a@b
            3  cote
            4  coté
            5  côte
@@ -43,7 +43,7 @@ reloaded            9
 côté is entry 6" "$examples/wordlist" "$work/words" --save "$work/list" --find côté
 expect 'the reloaded list' 0 "loaded              9
            1  €uro
-           2  a
+           2  a@b
            3  cote
            4  coté
            5  côte
@@ -51,13 +51,13 @@ expect 'the reloaded list' 0 "loaded              9
            7  Œuvre
            8  Ÿ
            9  $printed
-cotee is not there; it would be entry 7" "$examples/wordlist" --load "$work/list" --find cotee
+cotee is not in the list; it would be entry 7" "$examples/wordlist" --load "$work/list" --find cotee
 expect 'a replacement' 0 'read               13
 edited             10
 sorted             10
 kept               10
            1  €ur0
-           2  a
+           2  a@b
            3  c0te
            4  c0té
            5  COTE
@@ -77,16 +77,31 @@ head -c 15 "$work/list" > "$work/short"
 printf '\1\0\0\0\377\377\377\377' > "$work/negative"
 usage='usage: wordlist FILE [--replace OLD NEW] [--save LIST] [--find WORD]
        wordlist --load LIST [--find WORD]'
-expect 'a short file' 2 'wordlist: short is damaged: it ends before its records do' \
+expect 'a short file' 2 'wordlist: short is damaged: the data ends inside a record' \
   "$examples/wordlist" --load "$work/short"
-expect 'a long file' 2 'wordlist: long is damaged: it goes on after its last record' \
+expect 'a long file' 2 'wordlist: long is damaged: there is data after the last record' \
   "$examples/wordlist" --load "$work/long"
-expect 'a negative length' 2 \
-  'wordlist: negative is damaged: a length in it is none, or there is no memory' \
+expect 'a negative length' 2 'wordlist: negative is damaged (negative length), or memory ran out' \
   "$examples/wordlist" --load "$work/negative"
 expect 'no file' 2 'wordlist: cannot read missing' "$examples/wordlist" "$work/missing"
-expect 'a folder' 2 "wordlist: cannot read $work" "$examples/wordlist" "$work"
-expect 'no arguments' 2 "wordlist: either a word list or --load
+for folder in "$work" "--load $work" "$work/two --save $work"; do
+  # shellcheck disable=SC2086 # several arguments
+  expect 'a folder' 2 "wordlist: $work is a folder" \
+    sh -c 'exec "$@" > /dev/null' - "$examples/wordlist" $folder
+done
+for output in '> /dev/full' '>&-'; do
+  for arguments in "$work/two --save $work/unwritten" "--load $work/list" --help; do
+    # shellcheck disable=SC2086 # several arguments
+    expect "output $output" 2 'wordlist: cannot write to standard output' \
+      sh -c "exec \"\$@\" $output" - "$examples/wordlist" $arguments
+  done
+done
+expect 'no list from a run that failed' 1 '' test -e "$work/unwritten"
+for option in -h --help; do
+  expect "the first lines of $option" 0 "$usage" \
+    sh -c '"$@" | head -2' - "$examples/wordlist" $option
+done
+expect 'no arguments' 2 "wordlist: give either a word list or --load
 $usage" "$examples/wordlist"
 expect 'a wrong option' 2 "wordlist: unknown option --lost
 $usage" "$examples/wordlist" --lost
@@ -100,7 +115,7 @@ wordlist: cannot open missing/list' \
 expect 'the look-up' 0 '11 entries, 10 kept
 entry 7' "$examples/lookup" "$work/words" "$(printf 'c\364t\351')"
 expect 'a look-up in vain' 0 '11 entries, 10 kept
-not there; it would be entry 11' "$examples/lookup" "$work/words" zz
+not in the list; it would be entry 11' "$examples/lookup" "$work/words" zz
 printf 'M2\nm\262\nm2\n' > "$work/apart"
 expect 'case apart in linguistic order' 0 '3 entries, 2 kept
 entry 1' "$examples/lookup" "$work/apart" m2

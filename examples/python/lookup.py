@@ -1,10 +1,10 @@
-"""Looks a word up in a word list in windows-1252, one entry a line.
+"""Looks up a word in a word list in windows-1252, with one entry per line.
 
     lookup.py FILE WORD
 
-The list is sorted in linguistic order, by the collator of the default locale, and of entries that
-are equal without regard to case the first is kept. Prints the entry at which the word stands or
-would stand, counted from 1. Exits with 2 when there is nothing to look it up in.
+The list is sorted in the linguistic order of the default locale, and entries that differ from an
+earlier one only in case are dropped. Prints the number of the entry that the word is or would be,
+counted from 1. Exits with status 2 if the list cannot be read.
 """
 
 import bisect
@@ -13,7 +13,11 @@ import itertools
 import re
 import sys
 
-import zrstring
+try:
+    import zrstring
+except ImportError as error:
+    print("lookup: %s" % error, file=sys.stderr)
+    sys.exit(2)
 
 
 def key_by(options):
@@ -31,9 +35,9 @@ def entries_of(data):
 
 
 def without_repetitions(entries):
-    """The first of each group of entries that are equal without regard to case, in order.
+    """The entries without those that differ from an earlier one only in case.
 
-    Equal ones need not stand together in linguistic order: "m2", "m²" and "M2" sort so."""
+    Such entries need not be neighbours in linguistic order: "m2", "m²" and "M2" sort like this."""
     order = sorted(range(len(entries)), key=lambda index: folded(entries[index]))
     groups = itertools.groupby(order, key=lambda index: folded(entries[index]))
     return [entries[index] for index in sorted(next(group) for _, group in groups)]
@@ -53,7 +57,7 @@ def main(arguments):
     place = bisect.bisect_left([collated(entry) for entry in kept], wanted)
     found = place < len(kept) and collated(kept[place]) == wanted
     print("%d entries, %d kept" % (len(read), len(kept)))
-    print(("entry %d" if found else "not there; it would be entry %d") % (place + 1))
+    print(("entry %d" if found else "not in the list; it would be entry %d") % (place + 1))
     return None
 
 

@@ -163,7 +163,13 @@ def _bound(library, name):
 
 # PyDLL keeps the interpreter's lock during a call, where CDLL would give it up: strings that share
 # their text must not be copied, edited or destroyed by two threads at once.
-_library = ctypes.PyDLL(_library_name())
+try:
+    _library = ctypes.PyDLL(_library_name())
+except OSError as error:
+    _what = "cannot load the ZRString library (%s); install it or set ZRSTRING_LIBRARY to its file"
+    if __name__ == "__main__":
+        sys.exit(_what % error)
+    raise ImportError(_what % error) from None
 _functions = {name: _bound(_library, name) for name in FUNCTIONS}
 
 

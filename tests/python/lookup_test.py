@@ -12,7 +12,7 @@ AWKWARD = (
     b"\x8cuvre\na\0b\na\rb\n\x9f\r\ncot\xe9"
 )
 KEPT = "12 entries, 11 kept\n"
-VAIN = "not there; it would be entry "
+VAIN = "not in the list; it would be entry "
 
 ROWS = [
     ("the last of four that differ in accents", AWKWARD, "c\u00f4t\u00e9", KEPT + "entry 8\n"),
@@ -31,8 +31,8 @@ ROWS = [
 
 
 class Lookup(unittest.TestCase):
-    def run_it(self, *arguments):
-        environment = dict(os.environ, LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1")
+    def run_it(self, *arguments, **variables):
+        environment = dict(os.environ, LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", **variables)
         done = subprocess.run(
             [sys.executable, LOOKUP, *arguments],
             env=environment,
@@ -54,15 +54,16 @@ class Lookup(unittest.TestCase):
     def test_failures_are_sentences_and_status_2(self):
         with tempfile.TemporaryDirectory() as directory:
             missing = os.path.join(directory, "missing")
-            for arguments, sentence in [
-                ((), "usage: lookup.py FILE WORD"),
-                ((missing,), "usage: lookup.py FILE WORD"),
-                ((missing, "a", "b"), "usage: lookup.py FILE WORD"),
-                ((missing, "a"), "cannot read " + missing),
-                ((directory, "a"), "cannot read " + directory),
+            for arguments, variables, sentence in [
+                ((), {}, "usage: lookup.py FILE WORD"),
+                ((missing,), {}, "usage: lookup.py FILE WORD"),
+                ((missing, "a", "b"), {}, "usage: lookup.py FILE WORD"),
+                ((missing, "a"), {}, "cannot read " + missing),
+                ((directory, "a"), {}, "cannot read " + directory),
+                ((), {"ZRSTRING_LIBRARY": missing}, "cannot load the ZRString library (" + missing),
             ]:
-                with self.subTest(arguments):
-                    status, printed, complaint = self.run_it(*arguments)
+                with self.subTest(sentence):
+                    status, printed, complaint = self.run_it(*arguments, **variables)
                     self.assertEqual((status, printed, complaint.count("\n")), (2, "", 1))
                     self.assertTrue(complaint.startswith("lookup: " + sentence), complaint)
 
