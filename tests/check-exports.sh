@@ -1,17 +1,31 @@
 #!/usr/bin/env bash
-# Compares what a shared library exports with what is promised, in both directions.
+# Compares what a shared library (ELF or PE) exports with what is promised, in both directions.
 # usage: check-exports.sh LIBRARY
 set -euo pipefail
 export LC_ALL=C
 here=$(dirname "$0")
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
 
-exported=$(mktemp)
-trap 'rm -f "$exported"' EXIT
-nm -D --defined-only "$1" | awk '$2 != "A" { print $3 }' | sed 's/@.*//' | sort -u > "$exported"
-[ -s "$exported" ] || { echo "no exports were read from $1" >&2; exit 1; }
-
-# The interface's 32-bit integers are int where long is wider.
-case $(readelf -h "$1") in *ELF32*) long='long' ;; *) long='int' ;; esac
+cp "$here/exports-cpp.txt" "$work/promised-cpp"
+if [ "$(head -c 2 "$1")" = MZ ]; then
+  objdump -p "$1" | awk '
+    /^\[Ordinal\/Name Pointer\] Table/ { inside = 1; next }
+    NF == 0                            { inside = 0 }
+    inside                             { print $NF }' | sort -u > "$work/exported"
+  # Windows exports no names of types: programs reach them through the type information.
+  sed -i '/^typeinfo name for /d' "$work/promised-cpp"
+  long=long
+else
+  nm -D --defined-only "$1" | awk '$2 != "A" { print $3 }' | sed 's/@.*//' | sort -u > "$work/exported"
+  if nm -D "$1" | grep ' u ' >&2; then
+    echo "unique symbols keep the library in the process after dlclose" >&2
+    exit 1
+  fi
+  # The interface's 32-bit integers are int where long is wider.
+  case $(readelf -h "$1") in *ELF32*) long=long ;; *) long=int ;; esac
+fi
+[ -s "$work/exported" ] || { echo "no exports were read from $1" >&2; exit 1; }
 
 compare() {  # WHAT PROMISED ACTUAL
   if ! diff "$2" "$3"; then
@@ -21,13 +35,9 @@ compare() {  # WHAT PROMISED ACTUAL
 }
 
 # The vector's members vary with the standard library; all are members of the one instantiation.
-compare "plain names" "$here/exports-plain.txt" <(grep -v '^_Z' "$exported")
-compare "C++ names" "$here/exports-cpp.txt" <(grep '^_Z' "$exported" | c++filt |
+compare "plain names" "$here/exports-plain.txt" <(grep -v '^_Z' "$work/exported")
+compare "C++ names" "$work/promised-cpp" <(grep '^_Z' "$work/exported" | c++filt |
   sed -E "s/\<unsigned $long\>/ZRULong/g; s/\<$long\>/ZRLong/g; s/__cxx11:://g" |
   sed -E 's/^std::vector<ZRString\*, std::allocator<ZRString\*> >::.*/std::vector<ZRString*>::*/' |
   sort -u)
-if nm -D "$1" | grep ' u ' >&2; then
-  echo "unique symbols keep the library in the process after dlclose" >&2
-  exit 1
-fi
-echo "$(wc -l < "$exported") exports, as promised"
+echo "$(wc -l < "$work/exported") exports, as promised"
