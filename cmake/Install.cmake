@@ -26,7 +26,7 @@ install(FILES
   DESTINATION ${zrstring_cmake_dir} COMPONENT Development)
 
 # The .pc file finds its prefix from where it lies, so that an installed tree can be moved. A
-# directory that is absolute stands there as it is.
+# directory that is absolute is written unchanged.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
   BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE zrstring_pc_to_prefix)
 cmake_path(APPEND zrstring_pc_includedir "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
@@ -35,17 +35,29 @@ configure_file(cmake/zrstring.pc.in zrstring.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrstring.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
-# GDB loads the script by itself when it lies below its auto-load directory under the name and the
-# full path of the library; with the prefix /usr it does.
+# GDB loads the script by itself if it finds it below its auto-load directory (share/gdb/auto-load,
+# with the prefix /usr) under the full path of the library. The prefix in that path is the one given
+# when installing, which may differ from the one configured.
 if(NOT WIN32)
+  set(zrstring_installed_libdir "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+    set(zrstring_installed_libdir "${CMAKE_INSTALL_LIBDIR}")
+  endif()
   install(FILES tools/debugger/zrstring-gdb.py
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${zrstring_installed_libdir}
     COMPONENT Development
     RENAME libZRString.so.${PROJECT_VERSION}-gdb.py)
 endif()
 install(FILES tools/debugger/ZRString.natvis
   DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
 
-if(PROJECT_IS_TOP_LEVEL AND CMAKE_SYSTEM_NAME STREQUAL Linux)
-  include(cmake/Packages.cmake)
+if(PROJECT_IS_TOP_LEVEL)
+  add_custom_target(uninstall
+    COMMAND ${CMAKE_COMMAND} -P ${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake
+    WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
+    COMMENT "Removing what was last installed from this build folder"
+    VERBATIM)
+  if(CMAKE_SYSTEM_NAME STREQUAL Linux)
+    include(cmake/Packages.cmake)
+  endif()
 endif()

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 #
-# Installs a build of ZRString into a folder of its own, moves it elsewhere, and uses it there as
-# outside projects do: compares the installed files with files.txt, builds and runs a C++ project
+# Installs a build of ZRString and uninstalls it; installs it, moves it elsewhere, and uses it there
+# as outside projects do: compares the installed files with files.txt, builds and runs a C++ project
 # through find_package and a C project through pkg-config, and compiles every public header alone.
+# Makes the sources part of another project.
 #
 # ctest starts it with what it needs in the environment: BUILD, the build folder; CONFIG, its build
-# type; LIBDIR and FULL_LIBDIR, where it installs libraries, under the prefix and as a full path;
-# CMAKE, CC, CXX and CXXFLAGS.
+# type; LIBDIR, its folder of libraries below the prefix; CMAKE, CC, CXX and CXXFLAGS.
 
 set -euo pipefail
 unset DESTDIR PKG_CONFIG_PATH LD_LIBRARY_PATH CPATH LIBRARY_PATH
@@ -35,7 +35,7 @@ install_into() {
 compare_files() {
   local config=${CONFIG:-noconfig}
   sed -nE "s#^($2) ##p" "$tests/files.txt" |
-    sed -e "s|/FULL_LIBDIR/|$FULL_LIBDIR/|" -e "s|^LIBDIR/|$LIBDIR/|" -e "s|CONFIG|${config,,}|" |
+    sed -e "s|/PREFIX/|$1/|" -e "s|\<LIBDIR/|$LIBDIR/|" -e "s|CONFIG|${config,,}|" |
     LC_ALL=C sort >"$work/expected"
   (cd "$1" && find . ! -type d -printf '%P\n') | LC_ALL=C sort >"$work/found"
   diff -u "$work/expected" "$work/found" || fail "the files of $2 differ from files.txt"
@@ -81,6 +81,10 @@ install_into "$work/runtime" --component Runtime
 compare_files "$work/runtime" Runtime
 install_into "$work/installed"
 compare_files "$work/installed" 'Runtime|Development'
+"$CMAKE" --build "$BUILD" --target uninstall >"$work/uninstall.log" || fail "uninstalling"
+find "$work/runtime" "$work/installed" \( ! -type d -o -name ZRString \) >"$work/left"
+[ ! -s "$work/left" ] || fail "uninstalling left $(cat "$work/left")"
+install_into "$work/installed"
 mv "$work/installed" "$prefix"
 [ -z "$(dynamic 'RPATH|RUNPATH' "$prefix/$LIBDIR/libZRString.so.1.0.0")" ] ||
   fail "the library has a search path of its own"
@@ -127,6 +131,18 @@ if "$CXX" $CXXFLAGS -std=c++17 "$work/readme.cpp" -o "$work/readme-cpp" \
   run_program "$work/readme-c" "$work/readme.txt"
 else
   fail "the programs of the README"
+fi
+
+say "as part of another project"
+if "$CMAKE" -S "$tests/parent" -B "$work/parent" -DBUILD_SHARED_LIBS=OFF \
+  -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents" >"$work/parent.log" 2>&1 &&
+  "$CMAKE" --install "$work/parent" >>"$work/parent.log" 2>&1; then
+  [ "$(grep -c 'BUILD_SHARED_LIBS=OFF' "$work/parent.log")" = 1 ] ||
+    fail "BUILD_SHARED_LIBS=OFF is not answered once"
+  [ ! -e "$work/parents" ] || fail "ZRString installs itself with another project"
+else
+  cat "$work/parent.log"
+  fail "the project that contains ZRString"
 fi
 
 say "the public headers"
