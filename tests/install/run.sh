@@ -73,7 +73,7 @@ rm -rf "$work"
 mkdir -p "$work"
 # What the first program prints stands on the page that shows it.
 # shellcheck disable=SC2016 # the marks of a code block, not commands
-sed -n '/{#output}/,/{#rules}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' >"$work/road.txt"
+sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' >"$work/road.txt"
 [ -s "$work/road.txt" ] || fail "docs/index.md has no output"
 
 say "the installed files"
