@@ -13,6 +13,8 @@ install(TARGETS ZRString EXPORT ZRString
 install(DIRECTORY include/ZRString include/Velmar
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT Development
   FILES_MATCHING PATTERN *.h)
+install(FILES ${PROJECT_BINARY_DIR}/include/ZRString/ZRVersion.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ZRString COMPONENT Development)
 
 install(EXPORT ZRString NAMESPACE ZRString:: FILE ZRStringTargets.cmake
   DESTINATION ${zrstring_cmake_dir} COMPONENT Development)

@@ -116,7 +116,11 @@ else
   cat "$work/c.log"
   fail "the C project"
 fi
-[ "$(pkg-config --modversion zrstring)" = 1.0.0 ] || fail "the version in zrstring.pc"
+printf '#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING\n' >"$work/version.c"
+# shellcheck disable=SC2046 # several options
+"$CC" -E -P $(pkg-config --cflags zrstring) "$work/version.c" >"$work/version.txt"
+grep -qxF "\"$(pkg-config --modversion zrstring)\"" "$work/version.txt" ||
+  fail "ZRVersion.h and zrstring.pc: $(cat "$work/version.txt")"
 
 say "the programs of the README"
 block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
