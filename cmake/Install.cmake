@@ -1,5 +1,5 @@
-# What `cmake --install` and the packages put where, in two components: Runtime is what programs
-# need to run, Development what compiling and debugging them takes.
+# What `cmake --install` and the packages install. There are two components: Runtime is needed to
+# run programs, Development to compile and debug them.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -27,8 +27,8 @@ install(FILES
     ${CMAKE_CURRENT_BINARY_DIR}/ZRStringConfigVersion.cmake
   DESTINATION ${zrstring_cmake_dir} COMPONENT Development)
 
-# The .pc file finds its prefix from where it lies, so that an installed tree can be moved. A
-# directory that is absolute is written unchanged.
+# The .pc file derives the prefix from its own location, so that an installed tree can be moved.
+# Absolute directories are written unchanged.
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
   BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE zrstring_pc_to_prefix)
 cmake_path(APPEND zrstring_pc_includedir "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})

@@ -1,6 +1,6 @@
-# The Debian packages, which `cpack` makes: libzrstring1 for programs to run with, libzrstring-dev
-# to build them. They have the prefix of the build; with /usr the libraries go to the machine's
-# multiarch directory.
+# The Debian packages that `cpack` makes: libzrstring1 to run programs, libzrstring-dev to build
+# them. They install below the prefix of the build; with /usr the libraries go to the multiarch
+# directory.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_COMPONENTS_ALL Runtime Development)
@@ -29,8 +29,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "${zrstring_description}
 This package contains what programs need to run.")
 
-# The library's own dependencies, ICU among them, are read from it. Packages of programs depend on
-# the version they were built with or a later one; the dynamic linker is told of the library.
+# The dependencies are read from the library. The shlibs file makes dependents require at least this
+# version; the trigger runs ldconfig.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packages/shlibs
   "libZRString ${PROJECT_VERSION_MAJOR} ${zrstring_runtime} (>= ${PROJECT_VERSION})\n")

@@ -3,8 +3,8 @@
 
     check-output.py PAGE PROGRAM [ARGUMENT...]
 
-Every block of the program's output (lines between blank lines) must be a block of the page, line
-for line. In the page, the fences of code end a block too.
+Every block of the program's output (lines between blank lines) must be a block of the page. In the
+page, code fences end a block too.
 """
 import subprocess
 import sys

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks the tables of the pages that are made from the comments of ZRStringHandles.h.
+"""Checks the tables that the pages derive from the comments of ZRStringHandles.h.
 
     check-statuses.py [--update] ZRStringHandles.h PAGE...
 

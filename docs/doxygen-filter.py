@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Prints a public header as Doxygen is to read it. Line numbers stay as they are.
+"""Prints a public header for Doxygen, with unchanged line numbers.
 
-Specializations of the standard library's functions are left out: Doxygen has no declaration to
-attach them to.
+Specializations of functions of the standard library are left out, because Doxygen does not know
+what they specialize.
 """
 import sys
 

@@ -240,8 +240,8 @@ ZRLong ZRMutableStringAddStrings(ZRStringRef__* first, ZRStringRef__* second,
   auto sum = std::make_unique<ZRStringMutator>();
   *sum += StringOf(first);
   *sum += StringOf(second);
-  // No buffer: ICU could not hold the sum. An edit leaves that in the text, a create function
-  // throws.
+  // A null buffer means that ICU could not hold the sum. Edits leave the text in that state; create
+  // functions throw.
   if (!sum->GetBuffer())
     throw std::bad_alloc();
   *out = HandleOf(sum.release());

@@ -10,7 +10,7 @@ void Write(Velmar::IStream& stream, const Value& value) {
   static_cast<Velmar::ITransfer<Value>&>(stream).Write(&value);
 }
 
-/// The next value, 0 where the stream stores none.
+/// Reads the next value; 0 if the stream stores none.
 template <typename Value>
 void Read(Velmar::IStream& stream, Value& value) {
   value = 0;
@@ -32,10 +32,10 @@ void WriteRecord(Velmar::IStream& stream, const ZRString& string) {
     Write(stream, units[i]);
 }
 
-/// The units of a record whose length has been read.
+/// Reads the units of a record.
 ///
-/// The length may be damaged: a negative one makes the allocation throw, and memory is not touched
-/// before a unit has arrived for it.
+/// `length` may be damaged: if it is negative, the allocation throws, and no memory is touched
+/// before a unit has been read for it.
 std::unique_ptr<unsigned short[]> ReadUnits(Velmar::IStream& stream, ZRLong length) {
   const auto count = static_cast<std::size_t>(length);
   std::unique_ptr<unsigned short[]> units(new unsigned short[count]);

@@ -4,7 +4,7 @@
 #include <ZRString/ZRStringHandles.h>
 #include <ZRString/ZRStringMutator.h>
 
-// A handle is the address of the string that it stands for. Every cast between the two is here.
+// A handle is the address of its string. All casts between the two are here.
 
 inline ZRString& StringOf(ZRStringRef__* handle) { return *reinterpret_cast<ZRString*>(handle); }
 
@@ -12,7 +12,7 @@ inline ZRStringMutator& StringOf(ZRMutableStringRef__* handle) {
   return *reinterpret_cast<ZRStringMutator*>(handle);
 }
 
-/// The handle of a string, null for null.
+/// The handle of a string; null for null.
 inline ZRStringRef__* HandleOf(const ZRString* string) {
   return reinterpret_cast<ZRStringRef__*>(const_cast<ZRString*>(string));
 }

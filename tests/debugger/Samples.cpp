@@ -4,8 +4,8 @@
 
 #include <climits>
 
-// A program to stop in: one string in each state that a debugger must show. The test breaks at
-// Stop() and looks at the locals of its caller.
+// A program for debuggers, with one string in each state that they must show. The test breaks at
+// Stop() and prints the locals of its caller.
 
 volatile int stops = 0;
 
@@ -27,7 +27,7 @@ int main() {
   const unsigned short digits[] = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9'};
   const ZRString longestInline = Repeated(digits, 9, 3);
   const ZRString heapText = Repeated(digits, 10, 3);
-  const ZRString longText = Repeated(digits, 10, 120);  // its length is outside the flags
+  const ZRString longText = Repeated(digits, 10, 120);  // its length does not fit into the flags
   const ZRStringMutator emptyText;
 
   const ZRString shared("shared", 0, -1);
@@ -55,7 +55,7 @@ int main() {
   ZRStringRef__* const nullHandle = nullptr;
   ZRStringPtrArrayRef__* const arrayHandle = array.GetZRStringPtrArrayRef();
 
-  // What stands where no string is: before a constructor and after a destructor has run.
+  // Memory that holds no string: before a constructor has run and after a destructor has.
   static const void* const nothing[4] = {};
   static const void* const objects[2][2] = {{nullptr, nullptr}, {nullptr, nothing}};
   const ZRString* const unborn = reinterpret_cast<const ZRString*>(objects[0]);

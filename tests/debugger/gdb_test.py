@@ -2,9 +2,9 @@
 
     gdb_test.py GDB PROGRAM TYPED_PROGRAM PRINTERS LIBRARY NATVIS [AUTO_LOAD_DIRECTORY]
 
-TYPED_PROGRAM is the same program with the types of the bodies in its debug information. With
-AUTO_LOAD_DIRECTORY, that of an installed tree, the printers must load from there by themselves;
-without, from a directory made the same way for the library as it is.
+TYPED_PROGRAM is the same program with the types of the bodies in its debug information. GDB must
+load the printers by itself from AUTO_LOAD_DIRECTORY, which belongs to an installed tree. Without
+that argument the test makes such a directory for the library as built.
 """
 
 import os

@@ -25,7 +25,7 @@ ROWS = [
     ("there in another case only", b"M2", "m2", "1 entries, 1 kept\n" + VAIN + "1\n"),
     ("an empty file", b"", "a", "0 entries, 0 kept\n" + VAIN + "1\n"),
     ("newlines only", b"\n\r\n", "a", "0 entries, 0 kept\n" + VAIN + "1\n"),
-    # Sorted m2, m2 with a superscript, M2: what is equal does not stand together.
+    # Sorted m2, m2 with a superscript, M2: entries that are equal but for case are not neighbours.
     ("apart in order", b"M2\nm\xb2\nm2", "m\u00b2", "3 entries, 2 kept\nentry 2\n"),
 ]
 

@@ -1,5 +1,5 @@
-// Calls the members of std::vector<ZRString*>, whose instantiation is the library's, through the
-// array and on a vector of its own.
+// Calls the members of std::vector<ZRString*>, which only the library instantiates, through the
+// array and on a separate vector.
 
 #include <ZRString/ZRStringPtrArray.h>
 
