@@ -77,23 +77,39 @@ void AddSort(const char* row, const std::vector<typename Peer::String>& words, O
   });
 }
 
-const std::u16string kShort = Text(20, u"quay");
-
-template <typename String>
-void CopyAndDestroy(const String& text) {
-  String copy(text);
-  benchmark::DoNotOptimize(copy);
+template <typename String, typename Peer>
+void AddCopy(const char* row, std::u16string_view text) {
+  Add<Peer>(row, [string = String(Peer::Make(text))] {
+    String copy(string);
+    benchmark::DoNotOptimize(copy);
+  });
 }
 
 template <typename Peer>
-void AddStrings(const std::vector<typename Peer::String>& words) {
+void AddUtf8(const char* rowFrom, const char* rowTo, const std::u16string& text) {
+  const std::string bytes = ToUtf8(text);
+  Add<Peer>(rowFrom, [bytes] { benchmark::DoNotOptimize(Peer::FromUtf8(bytes)); });
+  Add<Peer>(rowTo, [text = Peer::Make(text)] { benchmark::DoNotOptimize(Peer::ToUtf8(text)); });
+}
+
+template <typename Peer>
+void AddPeer(const std::vector<std::u16string>& texts) {
   using String = typename Peer::String;
-  Add<Peer>("copy and destroy, 20 units", [text = Peer::Make(kShort)] { CopyAndDestroy(text); });
-  Add<Peer>("copy and destroy, 2,000 units",
-            [text = Peer::Make(Text(2000, u"quay"))] { CopyAndDestroy(text); });
-  Add<Peer>("create from 20 units", [] { benchmark::DoNotOptimize(Peer::Make(kShort)); });
-  AddFor<Peer>("find in 4,096 units", Text(4096, u"jumped"), u"jumped", Peer::Find);
-  AddFor<Peer>("compare 1,024 units", Text(1024, u"quay"), Text(1024, u"quaz"), Peer::Compare);
+  const std::u16string shortText = Text(20, u"quay");
+  AddCopy<typename Peer::Constant, Peer>("copy and destroy, 20 units", shortText);
+  AddCopy<typename Peer::Constant, Peer>("copy and destroy, 2,000 units", Text(2000, u"quay"));
+  AddCopy<String, Peer>("copy and destroy an editable string", shortText);
+  Add<Peer>("create from 20 units",
+            [shortText] { benchmark::DoNotOptimize(Peer::Make(shortText)); });
+  if constexpr (Peer::kCodePage) {
+    const std::string bytes = "d\xE9j\xE0 vu, ici";
+    Add<Peer>("create from 12 bytes of 8-bit text",
+              [bytes] { benchmark::DoNotOptimize(Peer::FromBytes(bytes)); });
+  }
+  if constexpr (Peer::kUnicode) {
+    AddUtf8<Peer>("create from 20 bytes of UTF-8", "20 units to UTF-8", shortText);
+    AddUtf8<Peer>("create from 1,000 bytes of UTF-8", "1,000 units to UTF-8", Text(1000, u"quay"));
+  }
   Add<Peer>("append 1,000 units one by one", [] {
     String text;
     for (int i = 0; i < kAppended; ++i)
@@ -108,38 +124,31 @@ void AddStrings(const std::vector<typename Peer::String>& words) {
     });
     benchmark::DoNotOptimize(text);
   });
-  if (!words.empty())
-    AddSort<Peer>("sort 100,000 words by units", words, std::less<String>());
-}
-
-template <typename Peer>
-void AddUnicode(const std::vector<typename Peer::String>& words) {
-  const auto nfc = [](const auto& text, const auto&) { return Peer::Nfc(text); };
-  const auto upper = [](const auto& text, const auto&) { return Peer::Upper(text); };
-  AddFor<Peer>("compare 20 units without case", kShort, u"THE BROWN FOX JUQUAY", Peer::ICompare);
-  AddFor<Peer>("20 units in upper case", kShort, u"", upper);
-  AddFor<Peer>("NFC of 20 composed units", kShort, u"", nfc);
-  AddFor<Peer>("NFC of 20 decomposed units", u"xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe",
-               u"", nfc);
-  if (!words.empty())
-    AddSort<Peer>("sort 100,000 words by collation", words, typename Peer::Collated());
-}
-
-template <typename Peer>
-void AddRecords(const std::vector<typename Peer::String>& words) {
-  if (words.empty())
+  AddFor<Peer>("find in 4,096 units", Text(4096, u"jumped"), u"jumped", Peer::Find);
+  AddFor<Peer>("compare 1,024 units", Text(1024, u"quay"), Text(1024, u"quaz"), Peer::Compare);
+  if constexpr (Peer::kUnicode) {
+    const auto upper = [](const auto& text, const auto&) { return Peer::Upper(text); };
+    const auto nfc = [](const auto& text, const auto&) { return Peer::Nfc(text); };
+    AddFor<Peer>("compare 20 units without case", shortText, u"THE BROWN FOX JUQUAY",
+                 Peer::ICompare);
+    AddFor<Peer>("upper case of 20 units", shortText, u"", upper);
+    AddFor<Peer>("NFC of 20 composed units", shortText, u"", nfc);
+    AddFor<Peer>("NFC of 20 decomposed units",
+                 u"xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe\u0301xe", u"", nfc);
+  }
+  if (texts.empty())
     return;
-  const auto records = std::make_shared<typename Peer::Records>(words);
-  Add<Peer>("write 100,000 records", [records] { records->Write(); });
-  Add<Peer>("read 100,000 records", [records] { records->Read(); });
-}
-
-template <typename Peer, typename... Adds>
-void AddPeer(const std::vector<std::u16string>& words, Adds... adds) {
-  static std::vector<typename Peer::String> strings;
-  for (const std::u16string& word : words)
-    strings.push_back(Peer::Make(word));
-  (adds(strings), ...);
+  static std::vector<String> words;
+  for (const std::u16string& text : texts)
+    words.push_back(Peer::Make(text));
+  AddSort<Peer>("sort 100,000 words by units", words, std::less<String>());
+  if constexpr (Peer::kUnicode)
+    AddSort<Peer>("sort 100,000 words by collation", words, typename Peer::Collated());
+  if constexpr (Peer::kRecords) {
+    const auto records = std::make_shared<typename Peer::Records>(words);
+    Add<Peer>("write 100,000 records", [records] { records->Write(); });
+    Add<Peer>("read 100,000 records", [records] { records->Read(); });
+  }
 }
 
 }  // namespace
@@ -155,13 +164,13 @@ int main(int argc, char** argv) {
   if (words.empty())
     std::fprintf(stderr, "%s not found or too short: no sorting, no records\n", kWordList);
   std::string versions = std::string("GCC ") + __VERSION__ + ", ICU " U_ICU_VERSION;
-  AddPeer<ZRPeer>(words, AddStrings<ZRPeer>, AddUnicode<ZRPeer>, AddRecords<ZRPeer>);
-  AddPeer<IcuPeer>(words, AddStrings<IcuPeer>, AddUnicode<IcuPeer>);
+  AddPeer<ZRPeer>(words);
+  AddPeer<IcuPeer>(words);
 #ifdef ZRSTRING_HAVE_QT
-  AddPeer<QtPeer>(words, AddStrings<QtPeer>, AddUnicode<QtPeer>, AddRecords<QtPeer>);
+  AddPeer<QtPeer>(words);
   versions += ", Qt " QT_VERSION_STR;
 #endif
-  AddPeer<StdPeer>(words, AddStrings<StdPeer>);
+  AddPeer<StdPeer>(words);
   benchmark::AddCustomContext("versions", versions);
   benchmark::RunSpecifiedBenchmarks();
 }

@@ -27,16 +27,16 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.Compare(t.start, t.length, t.twin, t.start, t.length); }},
       {"Compare, -1",
        [](Icu& t) { return t.text.compare(t.start, t.length, t.twin, t.start, t.length); },
-       [](ZR& t) { return t.text.Compare(t.start, kToEnd, t.twin, t.start, kToEnd); }},
+       [](ZR& t) { return t.text.Compare(t.start, kZRToEnd, t.twin, t.start, kZRToEnd); }},
       {"Compare, raw",
        [](Icu& t) { return t.text.compare(t.start, t.length, t.twin.Raw(), t.start, t.length); },
-       [](ZR& t) { return t.text.Compare(t.start, kToEnd, t.twin.Raw(), t.start, t.length); }},
+       [](ZR& t) { return t.text.Compare(t.start, kZRToEnd, t.twin.Raw(), t.start, t.length); }},
       {"CompareBetween",
        [](Icu& t) { return t.text.compareBetween(t.start, t.length, t.twin, t.start, t.length); },
        [](ZR& t) { return t.text.CompareBetween(t.start, t.last, t.twin, t.start, t.last); },
        "ZRStringCompare",
        [](ZR& t) {
-         return ZRStringCompare(t.textHandle, t.start, kToEnd, t.twinHandle, t.start, kToEnd,
+         return ZRStringCompare(t.textHandle, t.start, kZRToEnd, t.twinHandle, t.start, kZRToEnd,
                                 &t.result);
        }},
       {"CompareCodePointOrder",
@@ -44,14 +44,14 @@ const std::vector<Operation>& Operations() {
          return t.text.compareCodePointOrder(t.start, t.length, t.twin, t.start, t.length);
        },
        [](ZR& t) {
-         return t.text.CompareCodePointOrder(t.start, kToEnd, t.twin, t.start, kToEnd);
+         return t.text.CompareCodePointOrder(t.start, kZRToEnd, t.twin, t.start, kZRToEnd);
        }},
       {"CompareCodePointOrder, raw",
        [](Icu& t) {
          return t.text.compareCodePointOrder(t.start, t.length, t.twin.Raw(), t.start, t.length);
        },
        [](ZR& t) {
-         return t.text.CompareCodePointOrder(t.start, kToEnd, t.twin.Raw(), t.start, t.length);
+         return t.text.CompareCodePointOrder(t.start, kZRToEnd, t.twin.Raw(), t.start, t.length);
        }},
       {"CompareCodePointOrderBetween",
        [](Icu& t) {
@@ -62,17 +62,22 @@ const std::vector<Operation>& Operations() {
        },
        "ZRStringCompareCodePointOrder",
        [](ZR& t) {
-         return ZRStringCompareCodePointOrder(t.textHandle, t.start, kToEnd, t.twinHandle, t.start,
-                                              kToEnd, &t.result);
+         return ZRStringCompareCodePointOrder(t.textHandle, t.start, kZRToEnd, t.twinHandle,
+                                              t.start, kZRToEnd, &t.result);
        }},
       {"ICompare, option 0",
        [](Icu& t) { return t.text.caseCompare(t.start, t.length, t.upper, t.start, t.length, 0); },
-       [](ZR& t) { return t.text.ICompare(t.start, kToEnd, t.upper, t.start, kToEnd, 0); }},
+       [](ZR& t) {
+         return t.text.ICompare(t.start, kZRToEnd, t.upper, t.start, kZRToEnd,
+                                kZRCompareIgnoreCase);
+       }},
       {"ICompare, option 0, raw",
        [](Icu& t) {
          return t.text.caseCompare(t.start, t.length, t.upper.Raw(), t.start, t.length, 0);
        },
-       [](ZR& t) { return t.text.ICompare(t.start, kToEnd, t.upper.Raw(), t.start, t.length, 0); }},
+       [](ZR& t) {
+         return t.text.ICompare(t.start, kZRToEnd, t.upper.Raw(), t.start, t.length, 0);
+       }},
       {"ICompareBetween, option 0",
        [](Icu& t) {
          return t.text.caseCompareBetween(t.start, t.length, t.upper, t.start, t.length, 0);
@@ -80,28 +85,38 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.ICompareBetween(t.start, t.last, t.upper, t.start, t.last, 0); },
        "ZRStringICompare",
        [](ZR& t) {
-         return ZRStringICompare(t.textHandle, t.start, kToEnd, t.upperHandle, t.start, kToEnd, 0,
-                                 &t.result);
+         return ZRStringICompare(t.textHandle, t.start, kZRToEnd, t.upperHandle, t.start, kZRToEnd,
+                                 0, &t.result);
        }},
       {"ICompare, option 3", [](Icu& t) { return t.collator->compare(t.text, t.upper); },
-       [](ZR& t) { return t.text.ICompare(t.start, kToEnd, t.upper, t.start, kToEnd, 3); }},
+       [](ZR& t) {
+         return t.text.ICompare(t.start, kZRToEnd, t.upper, t.start, kZRToEnd, kZRCompareCollated);
+       }},
       {"ICompare, option 3, ranges",
        [](Icu& t) {
          return t.collator->compare(icu::UnicodeString(t.text, t.start, t.middle),
                                     icu::UnicodeString(t.upper, t.start, t.middle));
        },
-       [](ZR& t) { return t.text.ICompare(t.start, t.middle, t.upper, t.start, t.middle, 3); }},
+       [](ZR& t) {
+         return t.text.ICompare(t.start, t.middle, t.upper, t.start, t.middle, kZRCompareCollated);
+       }},
       {"ICompare, option 3, raw",
        [](Icu& t) {
          return t.collator->compare(t.text, icu::UnicodeString(t.upper.Raw(), t.length));
        },
-       [](ZR& t) { return t.text.ICompare(t.start, kToEnd, t.upper.Raw(), t.start, t.length, 3); }},
+       [](ZR& t) {
+         return t.text.ICompare(t.start, kZRToEnd, t.upper.Raw(), t.start, t.length,
+                                kZRCompareCollated);
+       }},
       {"ICompareBetween, option 3",
        [](Icu& t) {
          return t.collator->compare(icu::UnicodeString(t.text, t.start, t.length),
                                     icu::UnicodeString(t.upper, t.start, t.length));
        },
-       [](ZR& t) { return t.text.ICompareBetween(t.start, t.last, t.upper, t.start, t.last, 3); }},
+       [](ZR& t) {
+         return t.text.ICompareBetween(t.start, t.last, t.upper, t.start, t.last,
+                                       kZRCompareCollated);
+       }},
       {"operator==", [](Icu& t) { return t.text == t.twin; },
        [](ZR& t) { return t.text == t.twin; }},
       {"operator!=", [](Icu& t) { return t.text != t.twin; },
@@ -110,12 +125,12 @@ const std::vector<Operation>& Operations() {
       {"operator>=", [](Icu& t) { return t.text >= t.twin; },
        [](ZR& t) { return t.text >= t.twin; }},
       {"StartsWith", [](Icu& t) { return t.text.startsWith(t.prefix, t.start, t.prefix.length); },
-       [](ZR& t) { return t.text.StartsWith(t.prefix, t.start, kToEnd); }},
+       [](ZR& t) { return t.text.StartsWith(t.prefix, t.start, kZRToEnd); }},
       {"StartsWith, raw",
        [](Icu& t) { return t.text.startsWith(t.prefix.Raw(), t.start, t.prefix.length); },
        [](ZR& t) { return t.text.StartsWith(t.prefix.Raw(), t.start, t.prefix.length); }},
       {"EndsWith", [](Icu& t) { return t.text.endsWith(t.suffix, t.start, t.suffix.length); },
-       [](ZR& t) { return t.text.EndsWith(t.suffix, t.start, kToEnd); }},
+       [](ZR& t) { return t.text.EndsWith(t.suffix, t.start, kZRToEnd); }},
       {"EndsWith, raw",
        [](Icu& t) { return t.text.endsWith(t.suffix.Raw(), t.start, t.suffix.length); },
        [](ZR& t) { return t.text.EndsWith(t.suffix.Raw(), t.start, t.suffix.length); }},
@@ -123,36 +138,38 @@ const std::vector<Operation>& Operations() {
        [](Icu& t) {
          return t.text.indexOf(t.pattern, t.start, t.pattern.length, t.start, t.length);
        },
-       [](ZR& t) { return t.text.Find(t.pattern, t.start, kToEnd, t.start, kToEnd); },
+       [](ZR& t) { return t.text.Find(t.pattern, t.start, kZRToEnd, t.start, kZRToEnd); },
        "ZRStringFind",
        [](ZR& t) {
-         return ZRStringFind(t.textHandle, t.start, kToEnd, t.patternHandle, &t.result);
+         return ZRStringFind(t.textHandle, t.start, kZRToEnd, t.patternHandle, &t.result);
        }},
       {"Find, raw",
        [](Icu& t) {
          return t.text.indexOf(t.pattern.Raw(), t.start, t.pattern.length, t.start, t.length);
        },
        [](ZR& t) {
-         return t.text.Find(t.pattern.Raw(), t.start, t.pattern.length, t.start, kToEnd);
+         return t.text.Find(t.pattern.Raw(), t.start, t.pattern.length, t.start, kZRToEnd);
        },
        "ZRStringFindUniChars",
        [](ZR& t) {
-         return ZRStringFindUniChars(t.textHandle, t.start, kToEnd, t.pattern.units.data(),
+         return ZRStringFindUniChars(t.textHandle, t.start, kZRToEnd, t.pattern.units.data(),
                                      t.pattern.length, &t.result);
        }},
       {"RFind",
        [](Icu& t) { return t.text.lastIndexOf(t.word, t.start, t.word.length, t.start, t.length); },
-       [](ZR& t) { return t.text.RFind(t.word, t.start, kToEnd, t.start, kToEnd); },
+       [](ZR& t) { return t.text.RFind(t.word, t.start, kZRToEnd, t.start, kZRToEnd); },
        "ZRStringRFind",
-       [](ZR& t) { return ZRStringRFind(t.textHandle, t.start, kToEnd, t.wordHandle, &t.result); }},
+       [](ZR& t) {
+         return ZRStringRFind(t.textHandle, t.start, kZRToEnd, t.wordHandle, &t.result);
+       }},
       {"RFind, raw",
        [](Icu& t) {
          return t.text.lastIndexOf(t.word.Raw(), t.start, t.word.length, t.start, t.length);
        },
-       [](ZR& t) { return t.text.RFind(t.word.Raw(), t.start, t.word.length, t.start, kToEnd); },
+       [](ZR& t) { return t.text.RFind(t.word.Raw(), t.start, t.word.length, t.start, kZRToEnd); },
        "ZRStringRFindUniChars",
        [](ZR& t) {
-         return ZRStringRFindUniChars(t.textHandle, t.start, kToEnd, t.word.units.data(),
+         return ZRStringRFindUniChars(t.textHandle, t.start, kZRToEnd, t.word.units.data(),
                                       t.word.length, &t.result);
        }},
       {"LastIndexOf", [](Icu& t) { return t.text.lastIndexOf(t.unit); },
@@ -171,10 +188,10 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.GetBuffer(); }, "ZRStringGetBuffer",
        [](ZR& t) { return ZRStringGetBuffer(t.textHandle, &t.buffer); }},
       {"Extract", [](Icu& t) { t.text.extract(t.start, t.length, t.target.data(), t.start); },
-       [](ZR& t) { t.text.Extract(t.start, kToEnd, t.target.data(), t.start); },
+       [](ZR& t) { t.text.Extract(t.start, kZRToEnd, t.target.data(), t.start); },
        "ZRStringExtractIntoUniChars",
        [](ZR& t) {
-         return ZRStringExtractIntoUniChars(t.textHandle, t.start, kToEnd, t.target.data(),
+         return ZRStringExtractIntoUniChars(t.textHandle, t.start, kZRToEnd, t.target.data(),
                                             t.start);
        }},
       {"Extract of four units",
@@ -218,9 +235,9 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return (t.edited + t.prefix).GetLength(); }},
 
       {"SetTo", [](Icu& t) { t.edited.setTo(t.text, t.start, t.length); },
-       [](ZR& t) { t.edited.SetTo(t.text, t.start, kToEnd); }, "ZRMutableStringSetToZRString",
+       [](ZR& t) { t.edited.SetTo(t.text, t.start, kZRToEnd); }, "ZRMutableStringSetToZRString",
        [](ZR& t) {
-         return ZRMutableStringSetToZRString(t.editedHandle, t.textHandle, t.start, kToEnd);
+         return ZRMutableStringSetToZRString(t.editedHandle, t.textHandle, t.start, kZRToEnd);
        }},
       {"SetTo, raw", [](Icu& t) { t.edited.setTo(t.whole.Raw(), t.length); },
        [](ZR& t) { t.edited.SetTo(t.whole.Raw(), t.length); }},
@@ -230,7 +247,7 @@ const std::vector<Operation>& Operations() {
       {"operator+= unit", [](Icu& t) { t.edited += t.unit; }, [](ZR& t) { t.edited += t.unit; }},
       {"operator+=", [](Icu& t) { t.edited += t.pattern; }, [](ZR& t) { t.edited += t.pattern; }},
       {"Append", [](Icu& t) { t.edited.append(t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Append(t.pattern, t.start, kToEnd); }, "ZRMutableStringAppend",
+       [](ZR& t) { t.edited.Append(t.pattern, t.start, kZRToEnd); }, "ZRMutableStringAppend",
        [](ZR& t) { return ZRMutableStringAppend(t.editedHandle, t.patternHandle); }},
       {"Append, raw", [](Icu& t) { t.edited.append(t.pattern.Raw(), t.start, t.pattern.length); },
        [](ZR& t) { t.edited.Append(t.pattern.Raw(), t.start, t.pattern.length); },
@@ -240,10 +257,10 @@ const std::vector<Operation>& Operations() {
                                               t.pattern.length);
        }},
       {"Insert", [](Icu& t) { t.edited.insert(t.middle, t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Insert(t.middle, t.pattern, t.start, kToEnd); },
+       [](ZR& t) { t.edited.Insert(t.middle, t.pattern, t.start, kZRToEnd); },
        "ZRMutableStringInsert",
        [](ZR& t) {
-         return ZRMutableStringInsert(t.editedHandle, t.middle, t.patternHandle, t.start, kToEnd);
+         return ZRMutableStringInsert(t.editedHandle, t.middle, t.patternHandle, t.start, kZRToEnd);
        }},
       {"Insert, raw",
        [](Icu& t) { t.edited.insert(t.middle, t.pattern.Raw(), t.start, t.pattern.length); },
@@ -255,7 +272,7 @@ const std::vector<Operation>& Operations() {
        }},
       {"Replace",
        [](Icu& t) { t.edited.replace(t.middle, t.four, t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Replace(t.middle, t.four, t.pattern, t.start, kToEnd); },
+       [](ZR& t) { t.edited.Replace(t.middle, t.four, t.pattern, t.start, kZRToEnd); },
        "ZRMutableStringReplaceBetween",
        [](ZR& t) {
          return ZRMutableStringReplaceBetween(t.editedHandle, t.middle, t.four, t.patternHandle);
@@ -276,21 +293,22 @@ const std::vector<Operation>& Operations() {
        [](Icu& t) { t.edited.replaceBetween(t.start, t.length, t.twin, t.start, t.length); },
        [](ZR& t) { t.edited.ReplaceBetween(t.start, t.last, t.twin, t.start, t.last); }},
       {"Remove", [](Icu& t) { t.edited.remove(t.middle, t.length); },
-       [](ZR& t) { t.edited.Remove(t.middle, kToEnd); }},
+       [](ZR& t) { t.edited.Remove(t.middle, kZRToEnd); }},
       {"RemoveBetween", [](Icu& t) { t.edited.removeBetween(t.middle, t.length); },
        [](ZR& t) { t.edited.RemoveBetween(t.middle, t.last); }, "ZRMutableStringRemoveBetween",
-       [](ZR& t) { return ZRMutableStringRemoveBetween(t.editedHandle, t.middle, kToEnd); }},
+       [](ZR& t) { return ZRMutableStringRemoveBetween(t.editedHandle, t.middle, kZRToEnd); }},
       {"FindAndReplace",
        [](Icu& t) {
          t.edited.findAndReplace(t.start, t.length, t.word, t.start, t.word.length, t.word, t.start,
                                  t.word.length);
        },
        [](ZR& t) {
-         t.edited.FindAndReplace(t.start, kToEnd, t.word, t.start, kToEnd, t.word, t.start, kToEnd);
+         t.edited.FindAndReplace(t.start, kZRToEnd, t.word, t.start, kZRToEnd, t.word, t.start,
+                                 kZRToEnd);
        },
        "ZRMutableStringFindAndReplace",
        [](ZR& t) {
-         return ZRMutableStringFindAndReplace(t.editedHandle, t.start, kToEnd, t.wordHandle,
+         return ZRMutableStringFindAndReplace(t.editedHandle, t.start, kZRToEnd, t.wordHandle,
                                               t.wordHandle);
        }},
       {"FindAndReplace, raw",
@@ -301,7 +319,7 @@ const std::vector<Operation>& Operations() {
                                  t.start, t.word.length);
        },
        [](ZR& t) {
-         t.edited.FindAndReplace(t.start, kToEnd, t.word.Raw(), t.start, t.word.length,
+         t.edited.FindAndReplace(t.start, kZRToEnd, t.word.Raw(), t.start, t.word.length,
                                  t.word.Raw(), t.start, t.word.length);
        }},
       {"Normalize, composed text", [](Icu& t) { return NormalizeIcu(t.edited); },
@@ -327,14 +345,14 @@ const std::vector<Operation>& Operations() {
        "ZRMutableStringTrim", [](ZR& t) { return ZRMutableStringTrim(t.editedHandle); },
        Before::kSpaced},
       {"Reverse", [](Icu& t) { t.edited.reverse(t.start, t.length); },
-       [](ZR& t) { t.edited.Reverse(t.start, kToEnd); }, "ZRMutableStringReverse",
-       [](ZR& t) { return ZRMutableStringReverse(t.editedHandle, t.start, kToEnd); }},
+       [](ZR& t) { t.edited.Reverse(t.start, kZRToEnd); }, "ZRMutableStringReverse",
+       [](ZR& t) { return ZRMutableStringReverse(t.editedHandle, t.start, kZRToEnd); }},
       {"ToUpper", [](Icu& t) { t.edited.toUpper(); }, [](ZR& t) { t.edited.ToUpper(); },
        "ZRMutableStringToUpper", [](ZR& t) { return ZRMutableStringToUpper(t.editedHandle); }},
       {"ToLower", [](Icu& t) { t.edited.toLower(); }, [](ZR& t) { t.edited.ToLower(); },
        "ZRMutableStringToLower", [](ZR& t) { return ZRMutableStringToLower(t.editedHandle); }},
       {"Extract to a string", [](Icu& t) { t.source.extract(t.start, t.length, t.edited); },
-       [](ZR& t) { t.source.Extract(t.start, kToEnd, t.edited); }},
+       [](ZR& t) { t.source.Extract(t.start, kZRToEnd, t.edited); }},
       {"ExtractBetween to a string",
        [](Icu& t) { t.source.extractBetween(t.start, t.length, t.edited); },
        [](ZR& t) { t.source.ExtractBetween(t.start, t.last, t.edited); }},

@@ -2,6 +2,7 @@
 #define ZRSTRING_BENCHMARKS_PEERS_H
 
 #include <Velmar/IStream.h>
+#include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <ZRString/ZRStringStream.h>
@@ -26,7 +27,8 @@
 #endif
 
 // Each peer gives the operations that are compared under the same names, as a user of its string
-// would write them. What a peer's library cannot do is missing here.
+// would write them: case, normalization, UTF-8 and collation (kUnicode), 8-bit text (kCodePage) and
+// binary records (kRecords) where it has them.
 
 constexpr const char* kLocale = "fr_FR";
 
@@ -59,8 +61,10 @@ class MemoryStream : public Velmar::IStream {
 };
 
 struct ZRPeer {
+  using Constant = ZRString;
   using String = ZRStringMutator;
   static constexpr const char* kName = "ZRString";
+  static constexpr bool kUnicode = true, kCodePage = true, kRecords = true;
 
   static const unsigned short* Units(std::u16string_view text) {
     return reinterpret_cast<const unsigned short*>(text.data());
@@ -68,11 +72,20 @@ struct ZRPeer {
   static String Make(std::u16string_view text) {
     return String(Units(text), 0, static_cast<ZRLong>(text.size()));
   }
-  static auto Find(const String& text, const String& pattern) {
-    return text.Find(pattern, 0, -1, 0, -1);
+  static Constant FromBytes(const std::string& text) {
+    return Constant(text.data(), 0, static_cast<ZRLong>(text.size()));
   }
-  static auto Compare(const String& a, const String& b) { return a.Compare(0, -1, b, 0, -1); }
-  static auto ICompare(const String& a, const String& b) { return a.ICompare(0, -1, b, 0, -1, 0); }
+  static auto FromUtf8(const std::string& text) { return ::FromUtf8(text); }
+  static auto ToUtf8(const String& text) { return ::ToUtf8(text); }
+  static auto Find(const String& text, const String& pattern) {
+    return text.Find(pattern, 0, kZRToEnd, 0, kZRToEnd);
+  }
+  static auto Compare(const String& a, const String& b) {
+    return a.Compare(0, kZRToEnd, b, 0, kZRToEnd);
+  }
+  static auto ICompare(const String& a, const String& b) {
+    return a.ICompare(0, kZRToEnd, b, 0, kZRToEnd, kZRCompareIgnoreCase);
+  }
   static String Upper(const String& text) {
     String result(text);
     result.ToUpper();
@@ -91,7 +104,7 @@ struct ZRPeer {
   }
   struct Collated {
     bool operator()(const String& a, const String& b) const {
-      return a.ICompare(0, -1, b, 0, -1, 3) < 0;
+      return a.ICompare(0, kZRToEnd, b, 0, kZRToEnd, kZRCompareCollated) < 0;
     }
   };
 
@@ -120,11 +133,21 @@ struct ZRPeer {
 };
 
 struct IcuPeer {
+  using Constant = icu::UnicodeString;
   using String = icu::UnicodeString;
   static constexpr const char* kName = "ICU";
+  static constexpr bool kUnicode = true, kCodePage = true, kRecords = false;
 
   static String Make(std::u16string_view text) {
     return String(text.data(), static_cast<std::int32_t>(text.size()));
+  }
+  static String FromBytes(const std::string& text) {
+    return String(text.data(), static_cast<std::int32_t>(text.size()), "windows-1252");
+  }
+  static auto FromUtf8(const std::string& text) { return String::fromUTF8(text); }
+  static auto ToUtf8(const String& text) {
+    std::string bytes;
+    return text.toUTF8String(bytes);
   }
   static auto Find(const String& text, const String& pattern) { return text.indexOf(pattern); }
   static auto Compare(const String& a, const String& b) { return a.compare(b); }
@@ -159,12 +182,18 @@ struct IcuPeer {
 
 #ifdef ZRSTRING_HAVE_QT
 struct QtPeer {
+  using Constant = QString;
   using String = QString;
   static constexpr const char* kName = "QString";
+  static constexpr bool kUnicode = true, kCodePage = false, kRecords = true;
 
   static String Make(std::u16string_view text) {
     return String(reinterpret_cast<const QChar*>(text.data()), static_cast<int>(text.size()));
   }
+  static auto FromUtf8(const std::string& text) {
+    return String::fromUtf8(text.data(), static_cast<int>(text.size()));
+  }
+  static auto ToUtf8(const String& text) { return text.toUtf8(); }
   static auto Find(const String& text, const String& pattern) { return text.indexOf(pattern); }
   static auto Compare(const String& a, const String& b) { return a.compare(b); }
   static auto ICompare(const String& a, const String& b) {
@@ -209,8 +238,10 @@ struct QtPeer {
 #endif
 
 struct StdPeer {
+  using Constant = std::u16string;
   using String = std::u16string;
   static constexpr const char* kName = "std::u16string";
+  static constexpr bool kUnicode = false, kCodePage = false, kRecords = false;
 
   static String Make(std::u16string_view text) { return String(text); }
   static auto Find(const String& text, const String& pattern) { return text.find(pattern); }

@@ -10,8 +10,6 @@
 #include <string_view>
 #include <vector>
 
-constexpr ZRLong kToEnd = -1;
-
 /// What the calls of one library read and write. No two texts share a body or a buffer, and no
 /// number is a constant to the compiler.
 template <typename String, typename Mutable, typename Unit>
