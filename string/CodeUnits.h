@@ -3,7 +3,6 @@
 
 #include <ZRString/ZRTypes.h>
 #include <unicode/char16ptr.h>
-#include <unicode/unistr.h>
 
 #include <cstdint>
 
@@ -27,20 +26,41 @@ inline unsigned short* FromIcu(char16_t* units) {
 }
 
 /// A length of a raw text as ICU 72 reads it reliably: below -1 some of its members do not take a
-/// negative length as "up to the terminating zero".
+/// negative length as "up to the terminating zero unit".
 inline std::int32_t RawLength(ZRLong length) { return length < 0 ? -1 : length; }
 
-/// The range of a raw text, its start already applied.
+/// A raw operand as ICU's members take it.
 ///
 /// ICU 72 mishandles a start together with a negative length: compare() and caseCompare() measure
-/// the text from twice the start, startsWith() from its beginning. From 0 all of them are right.
-struct RawRange {
+/// the text from twice the start. From 0 they are right, so a start is applied here then.
+struct RawOperand {
+  RawOperand(const unsigned short* text, ZRLong textStart, ZRLong textLength)
+      : units(ToIcu(text)), start(textStart), length(textLength) {
+    if (length < 0) {
+      length = RawLength(length);
+      if (units)
+        units += start;
+      start = 0;
+    }
+  }
+
   const char16_t* units;
+  std::int32_t start;
   std::int32_t length;
 };
 
-inline RawRange RawRangeOf(const unsigned short* text, ZRLong start, ZRLong length) {
-  return text ? RawRange{ToIcu(text + start), RawLength(length)} : RawRange{nullptr, 0};
+/// A run of units that stays where it is.
+struct Units {
+  const char16_t* first;
+  std::int32_t count;
+};
+
+/// A raw operand whose start has been applied; an empty one for a null text.
+///
+/// For ICU 72's startsWith(), which measures a text from its beginning whatever the start, and
+/// for calls that do not take a null text as an empty one.
+inline Units RawUnits(const unsigned short* text, ZRLong start, ZRLong length) {
+  return text ? Units{ToIcu(text + start), RawLength(length)} : Units{nullptr, 0};
 }
 
 #endif

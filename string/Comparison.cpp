@@ -4,37 +4,18 @@
 #include "string/CodeUnits.h"
 #include "string/ProcessCollator.h"
 #include "string/Range.h"
-#include "string/TerminatedRange.h"
 #include "string/ZRStringImplementation.h"
 
 namespace {
 
-constexpr ZRULong kCodePointOrder = 2;
-constexpr ZRULong kCollated = 3;
-
 std::uint32_t IcuOptions(ZRULong options) {
-  return options == kCodePointOrder ? U_COMPARE_CODE_POINT_ORDER : options;
+  return options == kZRCompareIgnoreCaseCodePointOrder ? U_COMPARE_CODE_POINT_ORDER : options;
 }
 
-// The collated comparisons stand apart from their members, which would otherwise set up room for
-// the temporaries at every call.
-
-[[gnu::noinline]] signed char CollateRanges(const icu::UnicodeString& text, std::int32_t start,
-                                            std::int32_t length, const icu::UnicodeString& srcText,
-                                            std::int32_t srcStart, std::int32_t srcLength) {
-  return Collate(icu::UnicodeString(text, start, length),
-                 icu::UnicodeString(srcText, srcStart, srcLength));
-}
-
-[[gnu::noinline]] signed char CollateRawRange(const icu::UnicodeString& text, ZRLong start,
-                                              ZRLong length, const unsigned short* src,
-                                              ZRLong srcStart, ZRLong srcLength) {
-  const icu::UnicodeString operand = srcStart == 0
-                                         ? icu::UnicodeString(ToIcu(src), RawLength(srcLength))
-                                         : TerminatedRange(src, srcStart, srcLength);
-  if (start == 0 && (length == kToEnd || length == text.length()))
-    return Collate(text, operand);
-  return Collate(icu::UnicodeString(text, start, Resolved(length)), operand);
+/// The operand of a collated comparison: up to its zero unit, or `length` units of it, from a start
+/// of 0; otherwise a range of the text up to its zero unit.
+Units CollatedOperand(const unsigned short* src, ZRLong srcStart, ZRLong srcLength) {
+  return srcStart == 0 ? RawUnits(src, 0, srcLength) : TerminatedUnits(src, srcStart, srcLength);
 }
 
 }  // namespace
@@ -61,8 +42,8 @@ signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, 
 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const unsigned short* src,
                               ZRLong srcStart, ZRLong srcLength) const {
-  const RawRange raw = RawRangeOf(src, srcStart, srcLength);
-  return body_->text.compare(start, Resolved(length), raw.units, 0, raw.length);
+  const RawOperand raw(src, srcStart, srcLength);
+  return body_->text.compare(start, Resolved(length), raw.units, raw.start, raw.length);
 }
 
 signed char ZRString::CompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
@@ -81,8 +62,9 @@ signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const Z
 
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
                                             ZRLong srcStart, ZRLong srcLength) const {
-  const RawRange raw = RawRangeOf(src, srcStart, srcLength);
-  return body_->text.compareCodePointOrder(start, Resolved(length), raw.units, 0, raw.length);
+  const RawOperand raw(src, srcStart, srcLength);
+  return body_->text.compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
+                                           raw.length);
 }
 
 signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, const ZRString& src,
@@ -95,20 +77,19 @@ signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, con
 
 signed char ZRString::ICompare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                                ZRLong srcLength, ZRULong options) const {
-  const std::int32_t count = Resolved(length);
-  const std::int32_t srcCount = Resolved(srcLength);
-  if (options == kCollated)
-    return CollateRanges(body_->text, start, count, src.body_->text, srcStart, srcCount);
-  return body_->text.caseCompare(start, count, src.body_->text, srcStart, srcCount,
-                                 IcuOptions(options));
+  if (options == kZRCompareCollated)
+    return Collate(UnitsOf(body_->text, start, length),
+                   UnitsOf(src.body_->text, srcStart, srcLength));
+  return body_->text.caseCompare(start, Resolved(length), src.body_->text, srcStart,
+                                 Resolved(srcLength), IcuOptions(options));
 }
 
 signed char ZRString::ICompare(ZRLong start, ZRLong length, const unsigned short* src,
                                ZRLong srcStart, ZRLong srcLength, ZRULong options) const {
-  if (options == kCollated)
-    return CollateRawRange(body_->text, start, length, src, srcStart, srcLength);
-  const RawRange raw = RawRangeOf(src, srcStart, srcLength);
-  return body_->text.caseCompare(start, Resolved(length), raw.units, 0, raw.length,
+  if (options == kZRCompareCollated)
+    return Collate(UnitsOf(body_->text, start, length), CollatedOperand(src, srcStart, srcLength));
+  const RawOperand raw(src, srcStart, srcLength);
+  return body_->text.caseCompare(start, Resolved(length), raw.units, raw.start, raw.length,
                                  IcuOptions(options));
 }
 
@@ -116,9 +97,8 @@ signed char ZRString::ICompareBetween(ZRLong start, ZRLong end, const ZRString& 
                                       ZRLong srcStart, ZRLong srcEnd, ZRULong options) const {
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
-  if (options == kCollated)
-    return CollateRanges(body_->text, own.start, own.Length(), src.body_->text, other.start,
-                         other.Length());
+  if (options == kZRCompareCollated)
+    return Collate(UnitsOf(body_->text, own), UnitsOf(src.body_->text, other));
   return body_->text.caseCompareBetween(own.start, own.limit, src.body_->text, other.start,
                                         other.limit, IcuOptions(options));
 }
@@ -134,8 +114,8 @@ unsigned char ZRString::StartsWith(const ZRString& src, ZRLong srcStart, ZRLong 
 
 unsigned char ZRString::StartsWith(const unsigned short* src, ZRLong srcStart,
                                    ZRLong srcLength) const {
-  const RawRange raw = RawRangeOf(src, srcStart, srcLength);
-  return body_->text.startsWith(raw.units, 0, raw.length);
+  const Units raw = RawUnits(src, srcStart, srcLength);
+  return body_->text.startsWith(raw.first, 0, raw.count);
 }
 
 unsigned char ZRString::EndsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const {
@@ -144,6 +124,6 @@ unsigned char ZRString::EndsWith(const ZRString& src, ZRLong srcStart, ZRLong sr
 
 unsigned char ZRString::EndsWith(const unsigned short* src, ZRLong srcStart,
                                  ZRLong srcLength) const {
-  const RawRange raw = RawRangeOf(src, srcStart, srcLength);
-  return body_->text.endsWith(raw.units, 0, raw.length);
+  const Units raw = RawUnits(src, srcStart, srcLength);
+  return body_->text.endsWith(raw.first, 0, raw.count);
 }

@@ -45,7 +45,11 @@ const icu::Collator* ProcessCollator() {
 
 }  // namespace
 
-signed char Collate(const icu::UnicodeString& first, const icu::UnicodeString& second) {
+signed char Collate(Units first, Units second) {
   const icu::Collator* const collator = ProcessCollator();
-  return collator ? static_cast<signed char>(collator->compare(first, second)) : 0;
+  if (!collator)
+    return 0;
+  UErrorCode status = U_ZERO_ERROR;
+  return static_cast<signed char>(
+      collator->compare(first.first, first.count, second.first, second.count, status));
 }

@@ -1,9 +1,12 @@
 #include <ZRString/ZRStringMutator.h>
 #include <unicode/normlzr.h>
 
+#include <functional>
+#include <new>
+#include <utility>
+
 #include "string/CodeUnits.h"
 #include "string/Range.h"
-#include "string/TerminatedRange.h"
 #include "string/ZRStringImplementation.h"
 
 // The members of ZRStringMutator that work on every occurrence of a text or on the whole text.
@@ -24,6 +27,21 @@ UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
       return UNORM_FCD;
   }
   return UNORM_NONE;
+}
+
+/// The operand that a raw text is for an edit of `edited`: the caller's own units, without a copy,
+/// unless the edit may change them.
+icu::UnicodeString Operand(const icu::UnicodeString& edited, const unsigned short* text,
+                           ZRLong start, ZRLong length) {
+  const Units units = TerminatedUnits(text, start, length);
+  const char16_t* const own = edited.getBuffer();
+  const std::less<const char16_t*> before;
+  if (!before(units.first, own + edited.getCapacity()) || !before(own, units.first + units.count))
+    return icu::UnicodeString(false, units.first, units.count);
+  icu::UnicodeString copy(units.first, units.count);
+  if (copy.isBogus())
+    throw std::bad_alloc();
+  return copy;
 }
 
 void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
@@ -60,9 +78,9 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
     const ZRString before(*this);
     return FindAndReplace(start, length, oldText, oldStart, oldLength, before, newStart, newLength);
   }
-  const icu::UnicodeString oldOperand = TerminatedRange(oldText, oldStart, oldLength);
+  const icu::UnicodeString oldOperand = Operand(body_->text, oldText, oldStart, oldLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newText.body_->text, newStart,
+  ReplaceAll(body_->text, start, length, oldOperand, 0, kZRToEnd, newText.body_->text, newStart,
              newLength);
   return *this;
 }
@@ -75,10 +93,10 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
     const ZRString before(*this);
     return FindAndReplace(start, length, before, oldStart, oldLength, newText, newStart, newLength);
   }
-  const icu::UnicodeString newOperand = TerminatedRange(newText, newStart, newLength);
+  const icu::UnicodeString newOperand = Operand(body_->text, newText, newStart, newLength);
   CopyOnWrite();
   ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength, newOperand, 0,
-             newLength);
+             kZRToEnd);
   return *this;
 }
 
@@ -86,25 +104,33 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const unsigned short* oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const unsigned short* newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  const icu::UnicodeString oldOperand = TerminatedRange(oldText, oldStart, oldLength);
-  const icu::UnicodeString newOperand = TerminatedRange(newText, newStart, newLength);
+  const icu::UnicodeString oldOperand = Operand(body_->text, oldText, oldStart, oldLength);
+  const icu::UnicodeString newOperand = Operand(body_->text, newText, newStart, newLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldOperand, 0, oldLength, newOperand, 0, newLength);
+  ReplaceAll(body_->text, start, length, oldOperand, 0, kZRToEnd, newOperand, 0, kZRToEnd);
   return *this;
 }
 
 unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
   const ZRLong length = GetLength();
-  const icu::UnicodeString current(ToIcu(GetBuffer()), length);
-  icu::UnicodeString normalized;
+  const icu::UnicodeString current(false, ToIcu(GetBuffer()), length);  // an alias, not a copy
   const UNormalizationMode icuMode = IcuMode(mode);
   UErrorCode status = U_ZERO_ERROR;
   if (icu::Normalizer::quickCheck(current, icuMode, status) == UNORM_YES)
     return 0;
+  icu::UnicodeString normalized;
   icu::Normalizer::normalize(current, icuMode, 0, normalized, status);
-  if (U_FAILURE(status))
+  if (U_FAILURE(status) || normalized.isBogus())
     return 0;
-  SetTo(FromIcu(normalized.getBuffer()), normalized.length());
+  // The result becomes the text as it is. A copy of it into the text could fail, and the text would
+  // be lost.
+  if (body_->IsShared()) {
+    auto* const body = new ZRStringImplementation(std::move(normalized));
+    body_->GiveUpShare();
+    body_ = body;
+  } else {
+    body_->text.swap(normalized);
+  }
   return 1;
 }
 

@@ -2,29 +2,30 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
+#include <cstdint>
+#include <new>
+#include <string>
 
 #include "string/CodeUnits.h"
 #include "string/Handles.h"
 #include "string/Range.h"
+#include "string/Windows1252.h"
 #include "string/ZRStringImplementation.h"
 
 namespace {
 
-constexpr const char* kCodePage = "windows-1252";
-
-const char* FromByte(const char* text, ZRLong start) { return text ? text + start : nullptr; }
-
-/// A length of -1 becomes the number of bytes before the terminating zero byte.
-ZRLong ByteCount(const char* text, ZRLong start, ZRLong length) {
-  if (!text || length != kToEnd)
-    return length;
-  return static_cast<ZRLong>(std::min<std::size_t>(std::strlen(text + start), INT32_MAX));
+/// The length of a terminated text. std::bad_alloc for one that is longer than any string.
+template <typename Character>
+ZRLong TerminatedLength(const Character* text) {
+  const std::size_t length = std::char_traits<Character>::length(text);
+  if (length > INT32_MAX)
+    throw std::bad_alloc();
+  return static_cast<ZRLong>(length);
 }
 
-/// Gives up a share of a body for a copy of it. Out of line: most edits find their body unshared.
-[[gnu::noinline, gnu::cold]] ZRStringImplementation* ExchangedForCopy(
-    ZRStringImplementation* body) {
+/// Replaces the caller's share of `body` by a private copy. Out of line because most edits find the
+/// body unshared.
+[[gnu::noinline, gnu::cold]] ZRStringImplementation* PrivateCopyOf(ZRStringImplementation* body) {
   auto* const copy = new ZRStringImplementation(body->text);
   body->GiveUpShare();
   return copy;
@@ -34,7 +35,7 @@ ZRLong ByteCount(const char* text, ZRLong start, ZRLong length) {
 
 ZRString::ZRString() { CreateNewImplementation(); }
 
-ZRString::ZRString(const unsigned short* text) { CreateNewImplementation(text, 0, kToEnd); }
+ZRString::ZRString(const unsigned short* text) { CreateNewImplementation(text, 0, kZRToEnd); }
 
 ZRString::ZRString(const unsigned short* text, ZRLong length) {
   CreateNewImplementation(text, 0, length);
@@ -48,14 +49,16 @@ ZRString::ZRString(const unsigned char* text, ZRLong start, ZRLong length)
     : ZRString(reinterpret_cast<const char*>(text), start, length) {}
 
 ZRString::ZRString(const char* text, ZRLong start, ZRLong length) {
-  CreateNewImplementation(FromByte(text, start), ByteCount(text, start, length));
+  if (text)
+    text += start;
+  CreateNewImplementation(text, text && length == kZRToEnd ? TerminatedLength(text) : length);
 }
 
 ZRString::ZRString(const UniStr255& record) {
   CreateNewImplementation(record.units, 0, record.length);
 }
 
-ZRString::ZRString(const ZRString& source) { CreateNewImplementation(source, 0, kToEnd); }
+ZRString::ZRString(const ZRString& source) { CreateNewImplementation(source, 0, kZRToEnd); }
 
 ZRString::ZRString(const ZRString& source, ZRLong length) {
   CreateNewImplementation(source, 0, length);
@@ -74,20 +77,24 @@ ZRString::~ZRString() { body_->GiveUpShare(); }
 void ZRString::CreateNewImplementation() { body_ = new ZRStringImplementation(); }
 
 void ZRString::CreateNewImplementation(const unsigned short* text, ZRLong start, ZRLong length) {
-  const RawRange range = RawRangeOf(text, start, length);
-  body_ = new ZRStringImplementation(range.units, range.length);
+  const Units raw = RawUnits(text, start, length);
+  body_ = new ZRStringImplementation(raw.first,
+                                     raw.count < 0 ? TerminatedLength(raw.first) : raw.count);
 }
 
 void ZRString::CreateNewImplementation(const char* text, ZRLong length) {
-  if (!text)
+  if (!text || length <= 0)
     return CreateNewImplementation();
-  body_ = new ZRStringImplementation(text, std::max<ZRLong>(length, 0), kCodePage);
+  auto* const body = new ZRStringImplementation(length, 0, 0);  // no units, but room for them
+  DecodeWindows1252(text, length, body->text.getBuffer(length));
+  body->text.releaseBuffer(length);
+  body_ = body;
 }
 
 void ZRString::CreateNewImplementation(const ZRString& source, ZRLong start, ZRLong length) {
-  if (start == 0 && (length == kToEnd || length == source.GetLength()))
+  if (start == 0 && (length == kZRToEnd || length == source.GetLength()))
     body_ = source.body_->TakeShare();
-  else if (length == kToEnd)
+  else if (length == kZRToEnd)
     body_ = new ZRStringImplementation(source.body_->text, start);
   else
     body_ = new ZRStringImplementation(source.body_->text, start, length);
@@ -115,7 +122,7 @@ const ZRString& ZRString::operator=(const ZRString& other) {
 
 void ZRString::CopyOnWrite() {
   if (body_->IsShared())
-    body_ = ExchangedForCopy(body_);
+    body_ = PrivateCopyOf(body_);
 }
 
 ZRLong ZRString::Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
@@ -157,13 +164,14 @@ unsigned char ZRString::IsEmpty() const { return body_->text.isEmpty(); }
 const unsigned short* ZRString::GetBuffer() const { return FromIcu(body_->text.getBuffer()); }
 
 void ZRString::Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const {
-  const ZRLong whole = body_->text.length();
-  if (start > whole || start < 0 || length < kToEnd)
+  // As unsigned numbers, a negative start lies past the end and a length of -1 does too.
+  const std::uint32_t whole = body_->text.length();
+  const std::uint32_t first = start;
+  if (first > whole || length < kZRToEnd)
     return;
-  const ZRLong rest = whole - start;
-  const ZRLong count = length == kToEnd ? rest : std::min(length, rest);
-  body_->text.extract(start, count, ToIcu(dst), dstStart);
+  const std::uint32_t count = std::min<std::uint32_t>(length, whole - first);
   (dst + dstStart)[count] = 0;
+  body_->text.extract(start, count, ToIcu(dst), dstStart);
 }
 
 void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
@@ -172,8 +180,8 @@ void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
   const ZRLong limit = end < whole ? end + 1 : whole;
   if (start < 0 || start > limit)
     return;
-  body_->text.extractBetween(start, limit, ToIcu(dst), dstStart);
   (dst + dstStart)[limit - start] = 0;
+  body_->text.extractBetween(start, limit, ToIcu(dst), dstStart);
 }
 
 ZRStringRef__* ZRString::GetZRStringRef() const { return HandleOf(this); }

@@ -1,7 +1,5 @@
 #include <ZRString/ZRStringMutator.h>
 
-#include <algorithm>
-
 #include "string/CodeUnits.h"
 #include "string/Handles.h"
 #include "string/Range.h"
@@ -9,6 +7,23 @@
 
 // Every edit runs in this order: detach, then read the operands' bodies, then resolve lengths, then
 // one ICU call. An operand that is this string itself is so read in its new body.
+
+namespace {
+
+/// Gives a text that fills its storage a larger one; false, with the text as it was, without
+/// memory. Left to itself ICU would then lose the text, and with it that of every holder.
+[[gnu::noinline, gnu::cold]] bool MakeRoomForOneMore(icu::UnicodeString& text) {
+  if (text.isBogus())
+    return false;
+  icu::UnicodeString roomier(text.length() + 1, 0, 0);
+  roomier.append(text);
+  if (roomier.isBogus())
+    return false;
+  text.swap(roomier);
+  return true;
+}
+
+}  // namespace
 
 ZRStringMutator::ZRStringMutator() = default;
 
@@ -54,7 +69,7 @@ ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZR
 
 ZRStringMutator& ZRStringMutator::SetTo(const unsigned short* text, ZRLong length) {
   CopyOnWrite();
-  body_->text.setTo(ToIcu(text), RawLength(length));
+  body_->text.setTo(ToIcu(text), length);
   return *this;
 }
 
@@ -84,8 +99,7 @@ ZRStringMutator& ZRStringMutator::Append(const ZRString& source, ZRLong start, Z
 
 ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  const RawRange raw = RawRangeOf(text, start, length);
-  body_->text.append(raw.units, raw.length);
+  body_->text.append(ToIcu(text), start, length);
   return *this;
 }
 
@@ -99,8 +113,7 @@ ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* text, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
-  const RawRange raw = RawRangeOf(text, start, length);
-  body_->text.insert(position, raw.units, raw.length);
+  body_->text.insert(position, ToIcu(text), start, length);
   return *this;
 }
 
@@ -116,8 +129,7 @@ ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length,
                                           const unsigned short* text, ZRLong srcStart,
                                           ZRLong srcLength) {
   CopyOnWrite();
-  const RawRange raw = RawRangeOf(text, srcStart, srcLength);
-  body_->text.replace(position, Resolved(length), raw.units, raw.length);
+  body_->text.replace(position, Resolved(length), ToIcu(text), srcStart, srcLength);
   return *this;
 }
 
@@ -134,7 +146,7 @@ ZRStringMutator& ZRStringMutator::Remove(ZRLong start, ZRLong length) {
   CopyOnWrite();
   // Not the greatest length: from a start of 0 that is another operation of ICU's, which ends its
   // error state.
-  body_->text.remove(start, length == kToEnd ? body_->text.length() : length);
+  body_->text.remove(start, length == kZRToEnd ? body_->text.length() : length);
   return *this;
 }
 
@@ -170,7 +182,7 @@ void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& 
 
 ZRStringMutator ZRStringMutator::operator+(const ZRString& other) const {
   ZRStringMutator result(*this);
-  result.Append(other, 0, kToEnd);
+  result.Append(other, 0, kZRToEnd);
   return result;
 }
 
@@ -188,17 +200,16 @@ ZRStringMutator operator+(unsigned short unit, const ZRString& right) {
 
 unsigned short* ZRStringMutator::GetBuffer(ZRLong minCapacity) {
   CopyOnWrite();
-  // ICU 72 cuts the text to a smaller capacity where it shares the storage with a copy of its own,
-  // as it does after detaching.
-  const ZRLong length = body_->text.length();
-  return FromIcu(
-      body_->text.getBuffer(minCapacity < 0 ? minCapacity : std::max(minCapacity, length)));
+  return FromIcu(body_->text.getBuffer(minCapacity));
 }
 
 void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { body_->text.releaseBuffer(newLength); }
 
 const unsigned short* ZRStringMutator::GetTerminatedBuffer() {
-  return FromIcu(body_->text.getTerminatedBuffer());
+  icu::UnicodeString& text = body_->text;
+  if (text.length() == text.getCapacity() && !MakeRoomForOneMore(text))
+    return nullptr;
+  return FromIcu(text.getTerminatedBuffer());
 }
 
 ZRLong ZRStringMutator::GetCapacity() const { return body_->text.getCapacity(); }

@@ -2,9 +2,12 @@
 #include <ZRString/ZRString.h>
 #include <ZRString/ZRStringMutator.h>
 #include <gtest/gtest.h>
+#include <unicode/unistr.h>
 
 #include <cstddef>
 #include <cstring>
+#include <numeric>
+#include <string>
 #include <vector>
 
 #include "Text.h"
@@ -13,6 +16,14 @@ static_assert(sizeof(ZRString) == 2 * sizeof(void*));
 static_assert(sizeof(ZRStringMutator) == sizeof(ZRString));
 static_assert(sizeof(ZRLong) == 4 && sizeof(ZRULong) == 4);
 static_assert(offsetof(UniStr255, units) == 8);
+
+TEST(Lifetime, EveryByteDecodesAsByIcusConverter) {
+  std::string bytes(256, '\0');
+  std::iota(bytes.begin(), bytes.end(), '\0');
+  const icu::UnicodeString expected(bytes.data(), 256, "windows-1252");
+  EXPECT_EQ(TextOf(ZRString(bytes.data(), 0, 256)),
+            std::u16string(expected.getBuffer(), expected.length()));
+}
 
 TEST(Lifetime, ConstructorsTakeTheNamedRange) {
   const auto record = [](ZRLong length, const std::u16string& text) {

@@ -30,10 +30,10 @@ class ZRStringMutator;
 /// **Results.** Three-way comparisons give -1, 0 or +1: this string's range sorts before, equal
 /// to or after the operand's. Yes/no queries give 1 or 0.
 ///
-/// **Errors.** Only constructors allocate. When there is no memory for the body they throw
-/// `std::bad_alloc`; when ICU has none for the units, the string reads as empty, and nothing else
-/// tells. No query throws; the collated comparisons (option 3 of ICompare()) need memory of ICU's
-/// own.
+/// **Errors.** Constructors and CopyOnWrite() allocate. They deliver the whole text or throw
+/// `std::bad_alloc`: for want of memory, the library's or ICU's, and for a text longer than ICU can
+/// hold (some 2^31 units). No query throws. Collated comparison (option 3 of ICompare()) also
+/// allocates inside ICU; what fails there is not reported.
 ///
 /// **Threads.** Counts are plain integers and nothing is locked. Strings that share a body must
 /// be copied, assigned, edited and destroyed by one thread at a time; threads may read them at
@@ -153,8 +153,9 @@ class ZR_API ZRString {
   /// Index of the first occurrence of a range of `pattern` inside a range of this string.
   ///
   /// The index counts from the start of this string; -1 when the pattern's range is empty or does
-  /// not occur wholly inside [start, start + length). A pattern that begins or ends with half of
-  /// a surrogate pair is not found inside a whole pair.
+  /// not occur wholly inside [start, start + length). Half of a
+  /// surrogate pair, at either end of the pattern, is not found where it would cut a pair inside
+  /// the searched range.
   ZRLong Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength, ZRLong start,
               ZRLong length) const;
 
@@ -206,7 +207,7 @@ class ZR_API ZRString {
   const ZRString& operator=(const ZRString& other);
 
   /// Makes this string the only holder of its body: a shared body is copied. When the copy cannot
-  /// be allocated, `std::bad_alloc` leaves the string as it was.
+  /// be made, `std::bad_alloc` leaves the string as it was.
   void CopyOnWrite();
 
  private:

@@ -23,16 +23,17 @@ enum ZRStringNormalizationMode : int {
 /// refer to, a length of -1 for this string or for a ZRString operand means to its end, a negative
 /// length of a raw operand means up to its terminating zero unit, and `Between` members take
 /// inclusive ends. An operand may be this string itself or share its body; it is read as it was
-/// before the edit. The same holds for a raw operand that points into this string's own units.
+/// before the edit. The same holds for a raw operand within this string's own units, which the zero
+/// unit behind them is not part of.
 ///
 /// **Results.** Editing members return this object, so that edits chain.
 ///
-/// **Errors.** The library's own allocation, the body that detaching makes, throws `std::bad_alloc`
-/// and leaves this string and every operand as they were. When ICU itself runs out of memory inside
-/// an edit, or a text would grow past what ICU can hold, the text is lost and in ICU's error state:
-/// its length is 0, it equals no other text, its buffer is null, and it ignores edits until SetTo()
-/// gives it a new text, Truncate(0) or Remove(0, INT32_MAX) makes it an empty one, or another
-/// string is assigned.
+/// **Errors.** Detaching, the temporaries that some members need and the sum of operator+() throw
+/// `std::bad_alloc` when they cannot be made, and leave this string and every operand as they were.
+/// When ICU runs out of memory inside an edit, or a text would grow past what ICU can hold, the
+/// text of this string is lost and in ICU's error state: its length is 0, its buffer is null, it
+/// equals only a text in the same state, and it ignores edits until SetTo() gives it a new text,
+/// Truncate(0) or Remove(0, INT32_MAX) makes it an empty one, or another string is assigned.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
 /// edits; use the string for nothing else meanwhile.
@@ -108,8 +109,9 @@ class ZR_API ZRStringMutator : public ZRString {
   /// of `newText`. What was put in is not searched again; an empty old range changes nothing.
   ///
   /// A raw operand is read up to its first zero unit, which must be there even when its length is
-  /// given; its range is cut to that text and copied before this string detaches. -1 means to the
-  /// end of that text, any other negative length an empty range.
+  /// given; its range is cut to that text. -1 means to the end of that text, any other negative
+  /// length an empty range. An operand within this string's own units is copied before this string
+  /// detaches.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
                                   ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
                                   ZRLong newStart, ZRLong newLength);
@@ -125,8 +127,9 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// Brings the text into a normalization form.
   /// @return 1 when the text was replaced by its normalized form; 0 when a quick check found it in
-  ///         that form, when `mode` is none of the five, or when ICU reported an error. With 0 the
-  ///         string is unchanged and a shared body stays shared.
+  ///         that form, when `mode` is none of the five, or when ICU reported an error, for want of
+  ///         memory too. With 0, and when `std::bad_alloc` is thrown, the string is unchanged and a
+  ///         shared body stays shared.
   unsigned char Normalize(ZRStringNormalizationMode mode);
 
   /// Fills up to `targetLength` units with `padUnit` at the front.
@@ -184,7 +187,8 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// The units followed by a zero unit, without detaching. The units may move: a pointer that
   /// GetBuffer() gave, here or from a string that shares the body, is then invalid. For threads
-  /// this is an edit. Null while a buffer is open and when ICU has no memory.
+  /// this is an edit. Null, with the text as it was, while a buffer is open, in ICU's error state
+  /// and when ICU has no memory.
   const unsigned short* GetTerminatedBuffer();
 
   ZRLong GetCapacity() const;  ///< Units that the text's storage has room for.

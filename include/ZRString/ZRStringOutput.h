@@ -10,9 +10,11 @@
 /// @file
 /// Strings in standard output streams whose characters are UTF-16 code units.
 ///
-/// Including this header is all that such a stream needs: field width, fill, adjustment and
-/// `std::endl` work on it whatever its locale. Include it before anything else uses a stream of
-/// `unsigned short`.
+/// Inserting strings works on any such stream. Everything else that a stream does with characters
+/// of its own (padding, `fill()`, `std::endl`) needs this header in *every* file of the program
+/// that uses a stream of `unsigned short`, before its first use there: one file without it can
+/// bring in the standard library's own version of the function below, for the whole program, and
+/// `std::endl` then throws `std::bad_cast`.
 ///
 /// Insertion is that of a null-terminated character string: the text ends at its first zero unit,
 /// width and fill apply, the width is reset to 0, and failures are found in the stream's state.
@@ -21,11 +23,12 @@
 
 /// Widens an ASCII character, as a fill or as a line's end, to a code unit.
 ///
-/// Standard libraries take this from the facet `std::ctype` of the stream's locale, which none has
-/// for `unsigned short`: a stream then fails when it pads and throws on `fill()` and `std::endl`.
-/// A facet of our own would have to be put into each stream's locale, also into those made before
-/// the host's next change of the global locale. Widening needs no locale, so it is given here, once
-/// for every stream of the type, and no locale is touched.
+/// Streams widen through the locale's `std::ctype` facet, which no standard library provides for
+/// `unsigned short`: without this specialization padding fails, and `fill()` and `std::endl` throw.
+/// The standard does not allow a program to specialize a member of its classes for a fundamental
+/// type; the known standard libraries accept it. The alternative, a facet of our own, would have to
+/// be put into each stream's locale, also into those made before the host's next change of the
+/// global locale.
 template <>
 inline unsigned short std::basic_ios<unsigned short>::widen(char character) const {
   return static_cast<unsigned char>(character);

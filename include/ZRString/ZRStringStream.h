@@ -16,7 +16,11 @@
 ///
 /// Every operator returns its stream. Data flow with the arrow. What the stream throws passes
 /// through, and `std::bad_alloc` may be thrown when reading; both leave the mutator as it was, and
-/// the array with the entries that were complete.
+/// the array with the entries that were complete. Reading into a mutator ends in an edit, with what
+/// that means when ICU runs out of memory.
+///
+/// Lengths and counts are trusted. A damaged length makes a reader allocate for it, and a damaged
+/// count makes it ask the stream for as many strings.
 
 /// Writes the record of `string`.
 ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, const ZRString& string);
