@@ -7,7 +7,9 @@
 #include <vector>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 // After windows.h.
 #include <shellapi.h>
