@@ -9,7 +9,7 @@
 static void Check(ZRLong status) {
   if (status != kZRStatusSuccess) {
     fprintf(stderr, "parameter %d is invalid\n",
-            (int)status - 3);
+            (int)status - kZRStatusFirstParameter + 1);
     exit(EXIT_FAILURE);
   }
 }
@@ -67,11 +67,12 @@ int main(void) {
   //! [compare]
   ZRLong order, noCase, found;
   unsigned short pattern[] = {0xDF};
-  Check(ZRStringCompare(street, 0, -1, capitals, 0, -1,
-                        &order));
-  Check(ZRStringICompare(street, 0, -1, capitals, 0, -1, 0,
+  Check(ZRStringCompare(street, 0, kZRToEnd, capitals, 0,
+                        kZRToEnd, &order));
+  Check(ZRStringICompare(street, 0, kZRToEnd, capitals, 0,
+                         kZRToEnd, kZRCompareIgnoreCase,
                          &noCase));
-  Check(ZRStringFindUniChars(street, 0, -1, pattern, 1,
+  Check(ZRStringFindUniChars(street, 0, kZRToEnd, pattern, 1,
                              &found));
   //! [compare]
   ShowNumber("order", (int)order);

@@ -40,15 +40,18 @@ int main() {
                                   'a', 0xDF, 'e'};
 
   const ZRString street(units, 6);
-  const ZRString capitals("STRASSE", 0, -1);
+  const ZRString capitals("STRASSE", 0, kZRToEnd);
   //! [make]
   Show("make", street);
 
   //! [compare]
-  const int order = street.Compare(0, -1, capitals, 0, -1);
+  const int order =
+      street.Compare(0, kZRToEnd, capitals, 0, kZRToEnd);
   const int noCase =
-      street.ICompare(0, -1, capitals, 0, -1, 0);
-  const ZRLong found = street.Find(units + 4, 0, 1, 0, -1);
+      street.ICompare(0, kZRToEnd, capitals, 0, kZRToEnd,
+                      kZRCompareIgnoreCase);
+  const ZRLong found =
+      street.Find(units + 4, 0, 1, 0, kZRToEnd);
   //! [compare]
   Show("order", order);
   Show("no case", noCase);
