@@ -23,7 +23,6 @@
 #include <string>
 #include <vector>
 
-#include "CommandLine.h"
 #include "LittleEndianStream.h"
 #include "Progress.h"
 
@@ -303,11 +302,9 @@ void Run(const Options& options) {
     PrintPlace(words, *options.find);
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Main(const std::vector<std::string>& arguments) {
   try {
-    const Options options = Parse(Arguments(argc, argv));
+    const Options options = Parse(arguments);
     if (options.help)
       std::cout << kUsage << kHelp;
     else
@@ -321,3 +318,18 @@ int main(int argc, char** argv) {
   }
   return 2;
 }
+
+}  // namespace
+
+#ifdef _WIN32
+// The arguments of main() are in the system's code page, which lacks most characters. MinGW links
+// wmain() with -municode.
+int wmain(int argc, wchar_t** argv) {
+  std::vector<std::string> arguments;
+  for (int i = 1; i < argc; ++i)
+    arguments.push_back(ToUtf8(FromWide(argv[i])));
+  return Main(arguments);
+}
+#else
+int main(int argc, char** argv) { return Main({argv + (argc > 0), argv + argc}); }
+#endif
