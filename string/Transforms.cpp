@@ -51,19 +51,27 @@ void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
                         newStart, Resolved(newLength));
 }
 
+/// FindAndReplace() where an operand is the string under edit: ICU 72 reads the operands anew at
+/// each match, and so would read its own replacements. While a copy shares the body, the edit takes
+/// another one. Out of line: inlined, it would make every call set up stack space for the copy.
+[[gnu::noinline, gnu::cold]] ZRStringMutator& ReplaceAllByItself(
+    ZRStringMutator& edited, ZRLong start, ZRLong length, const ZRString& oldText, ZRLong oldStart,
+    ZRLong oldLength, const ZRString& newText, ZRLong newStart, ZRLong newLength) {
+  const ZRString before(edited);
+  return edited.FindAndReplace(start, length, &oldText == &edited ? before : oldText, oldStart,
+                               oldLength, &newText == &edited ? before : newText, newStart,
+                               newLength);
+}
+
 }  // namespace
 
 ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const ZRString& oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const ZRString& newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  if (&oldText == this || &newText == this) {
-    // ICU 72 reads the operands anew at each match, and so would read its own replacements where
-    // an operand is the text under edit. While a copy shares the body, the edit takes another one.
-    const ZRString before(*this);
-    return FindAndReplace(start, length, &oldText == this ? before : oldText, oldStart, oldLength,
-                          &newText == this ? before : newText, newStart, newLength);
-  }
+  if (&oldText == this || &newText == this)
+    return ReplaceAllByItself(*this, start, length, oldText, oldStart, oldLength, newText, newStart,
+                              newLength);
   CopyOnWrite();
   ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength,
              newText.body_->text, newStart, newLength);
