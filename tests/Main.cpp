@@ -1,10 +1,14 @@
+// The test programs' entry: ICU's default locale, and the arguments that are not the framework's.
 #include <gtest/gtest.h>
 #include <unicode/uloc.h>
+
+std::vector<std::string> programArguments;
 
 // Collation and case mapping follow ICU's default locale, which the environment would choose.
 int main(int argc, char** argv) {
   UErrorCode status = U_ZERO_ERROR;
   uloc_setDefault("en_US", &status);
   testing::InitGoogleTest(&argc, argv);
+  programArguments.assign(argv + 1, argv + argc);
   return U_FAILURE(status) ? 1 : RUN_ALL_TESTS();
 }

@@ -1,3 +1,4 @@
+// Texts as the tests write and read them, what ranges of them mean, and what strings share.
 #ifndef ZRSTRING_TESTS_TEXT_H
 #define ZRSTRING_TESTS_TEXT_H
 
@@ -11,19 +12,21 @@
 #include <ostream>
 #include <string>
 
+using Text = std::u16string;
+
 inline const unsigned short* Raw(const char16_t* text) {
   return reinterpret_cast<const unsigned short*>(text);
 }
 
-inline const unsigned short* Raw(const std::u16string& text) { return Raw(text.c_str()); }
+inline const unsigned short* Raw(const Text& text) { return Raw(text.c_str()); }
 
-inline ZRString Make(const std::u16string& text) {
+inline ZRString Make(const Text& text) {
   return ZRString(Raw(text), 0, static_cast<ZRLong>(text.size()));
 }
 
-inline std::u16string TextOf(const ZRString& string) {
+inline Text TextOf(const ZRString& string) {
   const unsigned short* const units = string.GetBuffer();
-  return std::u16string(units, units + string.GetLength());
+  return Text(units, units + string.GetLength());
 }
 
 /// A string is a virtual table and a body; a body begins with its count.
@@ -38,7 +41,7 @@ inline int Holders(const ZRString& string) { return *BodyOf(string); }
 /// A raw text in memory of exactly its size, where a sanitizer sees a read past either end.
 class ExactText {
  public:
-  ExactText(const std::u16string& text, bool terminated)
+  ExactText(const Text& text, bool terminated)
       : units_(new unsigned short[text.size() + terminated]) {
     std::copy(text.begin(), text.end(), units_.get());
     if (terminated)
@@ -51,19 +54,16 @@ class ExactText {
   std::unique_ptr<unsigned short[]> units_;
 };
 
-/// Starts and lengths worth trying on texts of up to five units.
-constexpr ZRLong kEdges[] = {INT_MIN, INT_MIN + 1, -2, -1, 0, 1, 2, 3, 5, 6, INT_MAX - 1, INT_MAX};
-
 // What ranges mean, written down in 64 bits and without ICU.
 
-inline std::u16string CutBetween(const std::u16string& text, ZRLong start, ZRLong end) {
+inline Text CutBetween(const Text& text, ZRLong start, ZRLong end) {
   const auto size = static_cast<long long>(text.size());
   const long long first = std::clamp<long long>(start, 0, size);
   const long long limit = std::clamp<long long>(end + 1LL, first, size);
   return text.substr(first, limit - first);
 }
 
-inline std::u16string Cut(const std::u16string& text, ZRLong start, ZRLong length) {
+inline Text Cut(const Text& text, ZRLong start, ZRLong length) {
   const auto size = static_cast<long long>(text.size());
   const long long first = std::clamp<long long>(start, 0, size);
   const long long count = length == -1 ? size : std::max<long long>(length, 0);

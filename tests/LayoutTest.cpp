@@ -1,0 +1,60 @@
+// What a host compiled against: sizes, the slots of virtual operations, handles as addresses.
+#include <Velmar/IStream.h>
+#include <ZRString/ZRStringMutator.h>
+#include <ZRString/ZRStringPtrArray.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+
+#include "Text.h"
+
+static_assert(sizeof(ZRString) == 2 * sizeof(void*));
+static_assert(sizeof(ZRStringMutator) == sizeof(ZRString));
+static_assert(sizeof(ZRLong) == 4 && sizeof(ZRULong) == 4);
+static_assert(offsetof(UniStr255, units) == 8);
+
+namespace {
+
+/// The slot of a virtual member function, as the C++ ABI of GCC and Clang keeps it in a pointer.
+template <typename Pointer>
+std::ptrdiff_t Slot(Pointer member) {
+  std::ptrdiff_t value;
+  std::memcpy(&value, &member, sizeof value);
+  return (value - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+}
+
+}  // namespace
+
+TEST(Layout, VirtualOperationsKeepTheirSlots) {
+  // The destructor has the first two there.
+  EXPECT_EQ(Slot(&ZRString::GetBuffer), 2);
+  EXPECT_EQ(Slot(&ZRString::Extract), 3);
+  EXPECT_EQ(Slot(&ZRString::ExtractBetween), 4);
+  EXPECT_EQ(Slot<unsigned short* (ZRStringMutator::*)(ZRLong)>(&ZRStringMutator::GetBuffer), 5);
+  EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Write), 2);
+  EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Read), 3);
+}
+
+TEST(Layout, HandlesAreAddresses) {
+  const ZRString string = Make(u"a");
+  ZRStringMutator mutator(string);
+  ZRStringPtrArray array;
+  EXPECT_EQ(static_cast<const void*>(string.GetZRStringRef()), &string);
+  EXPECT_EQ(&GetZRStringFromRef(string.GetZRStringRef()), &string);
+  EXPECT_EQ(static_cast<void*>(mutator.GetZRMutableStringRef()), &mutator);
+  EXPECT_EQ(&GetZRStringMutatorFromRef(mutator.GetZRMutableStringRef()), &mutator);
+  EXPECT_EQ(static_cast<void*>(mutator.GetZRStringRef()), &mutator);
+  EXPECT_EQ(GetZRStringPtrArrayFromRef(array.GetZRStringPtrArrayRef()), &array);
+  EXPECT_EQ(GetZRStringPtrArrayFromRef(nullptr), nullptr);
+  EXPECT_EQ(TextOf(ZRString(static_cast<ZRStringRef__*>(nullptr))), u"");
+  EXPECT_EQ(TextOf(ZRStringMutator(static_cast<ZRMutableStringRef__*>(nullptr))), u"");
+
+  ZRString* const untouched = reinterpret_cast<ZRString*>(8);
+  ZRString* result = untouched;
+  EXPECT_EQ(ZRStringRefToZRString(nullptr, nullptr), 5);
+  EXPECT_EQ(ZRStringRefToZRString(string.GetZRStringRef(), nullptr), 5);
+  EXPECT_EQ(ZRStringRefToZRString(nullptr, &result), 4);
+  EXPECT_EQ(result, untouched);
+  EXPECT_EQ(ZRStringRefToZRString(string.GetZRStringRef(), &result), 0);
+  EXPECT_EQ(result, &string);
+}
