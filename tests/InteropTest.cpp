@@ -109,19 +109,25 @@ TEST(Interop, FourBytesAndFourUnitsAtTheEdgesOfTheirClasses) {
   }
 }
 
-// Where texts are cut into pieces or change their storage, whatever stands there.
-TEST(Interop, EveryLengthAroundThePieces) {
+// Texts are converted in pieces and blocks: the same at every place in one and around their ends.
+TEST(Interop, EveryPlaceAndLength) {
   for (const char* part : {"a", "\xC3\xA9", "\xE4\xB8\xAD", "\xF0\x9F\x98\x80", "a\xE4", "\xFF"}) {
-    std::string bytes;
-    for (std::string before : {"", "a", "aa"})
-      for (bytes = before; bytes.size() < 800; bytes += part) {
+    for (int place = 0; place < 40; ++place) {
+      std::string bytes = std::string(40, 'a').insert(place, part);
+      for (const std::size_t limit = place < 3 ? 850 : 60; bytes.size() < limit; bytes += part) {
         ASSERT_TRUE(SameFromUtf8(bytes)) << testing::PrintToString(bytes);
         ASSERT_TRUE(SameToUtf8(IcuUtf16(bytes))) << testing::PrintToString(bytes);
+        const ZRStringMutator string(FromUtf8(bytes));
+        ASSERT_LE(string.GetCapacity(), string.GetLength() * 5 / 4 + 8);
       }
-    const ZRStringMutator string(FromUtf8(bytes));
-    EXPECT_LE(string.GetCapacity(), string.GetLength() * 5 / 4 + 8) << part;
-    EXPECT_LE(ToUtf8(string).capacity(), ToUtf8(string).size() * 5 / 4) << part;
+      for (int i = 0; i < 3; ++i)
+        bytes += bytes;
+      const std::string back = ToUtf8(FromUtf8(bytes));
+      ASSERT_LE(back.capacity(), back.size() * 5 / 4);
+    }
   }
+  std::u16string units(255, u'\u4E2D');
+  EXPECT_TRUE(SameToUtf8(units + u"\U0001F600"));
 }
 
 TEST(Interop, TextsThatAreTooLongAreRefused) {
@@ -173,6 +179,8 @@ TEST(Interop, KeysOfContainers) {
 TEST(Interop, Printing) {
   ZRStringMutator open(u"abc"_zr);
   open.GetBuffer(-1);
+  ZRStringMutator cut(u"\U00010000"_zr);  // whose second half may still be behind it
+  cut.Truncate(1);
   const struct {
     ZRString string;
     std::string inserted;
@@ -186,6 +194,7 @@ TEST(Interop, Printing) {
       {u"\"\\"_zr, "\"\\", "\"\\\"\\\\\""},
       {u""_zr, "", "\"\""},
       {InErrorState(), "", "(no text: its buffer is open, or ICU ran out of memory)"},
+      {cut, "\xEF\xBF\xBD", "\"\\uD800\""},
       {open, "", "(no text: its buffer is open, or ICU ran out of memory)"},
   };
   for (const auto& row : rows) {

@@ -224,10 +224,7 @@ inline namespace ZRStringInterop {
 
 /// The units of `string`, which stay its own: valid as long as what ZRString::GetBuffer() returns.
 inline std::u16string_view Utf16View(const ZRString& string) {
-  const unsigned short* const units = string.GetBuffer();
-  if (!units)
-    return {};
-  return {ZRStringInteropDetail::UnitsAs<const char16_t>(units),
+  return {ZRStringInteropDetail::UnitsAs<const char16_t>(string.GetBuffer()),
           static_cast<std::size_t>(string.GetLength())};
 }
 
