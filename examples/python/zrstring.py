@@ -5,8 +5,8 @@
     ('GRÜSSE', 6)
 
 Indices and lengths count UTF-16 code units, and a length of -1 means to the end, as in
-ZRStringHandles.h, where each function's contract stands. Wherever a string is an operand, a str
-will do. An invalid argument raises InvalidArgument, which names the parameter.
+ZRStringHandles.h, which documents each function. Operands may be of type str. An invalid argument
+raises InvalidArgument, which names the parameter.
 
 The library is the file that the environment variable ZRSTRING_LIBRARY names, or else the one that
 the system finds.
@@ -27,8 +27,7 @@ IGNORE_CASE, IGNORE_CASE_TURKIC, IGNORE_CASE_CODE_POINT_ORDER, COLLATED = range(
 
 
 class Long(ctypes.c_int32):
-    """A ZRLong, 32 bits everywhere. A number beyond them becomes the nearest, which is past every
-    end just as well; ctypes alone would cut off its upper bits."""
+    """A ZRLong: 32 bits. Larger numbers are clamped, where ctypes would drop their upper bits."""
 
     @classmethod
     def from_param(cls, value):
@@ -60,7 +59,7 @@ _SRC_RANGE = [("src", Handle), ("srcStart", Long), ("srcLength", Long)]
 _ARRAY = [("array", Handle)]
 _OUT = [("out", Out(Handle))]
 
-# The functions used here, with the parameters as ZRStringHandles.h names them.
+# The functions that this module calls, with the parameter names of ZRStringHandles.h.
 FUNCTIONS = {
     "ZRStringCreateFromUniChars": [("chars", Units)] + _RANGE + _OUT,
     "ZRStringCreateFromLocalString": [("text", Bytes)] + _RANGE + _OUT,
@@ -111,12 +110,12 @@ FUNCTIONS = {
 _INDEX_OUTSIDE = 12
 _FIRST_PARAMETER = 4
 
-# The one status that is not 3 + the position of the parameter that it stands for.
+# The one status that is not 3 + the position of the invalid parameter.
 _POSITIONS = {("InsertZRStringRefAt", 5): 3}
 
 
 class Error(Exception):
-    """A status other than 0; `function` and `status` say which. Nothing has happened then."""
+    """A status other than 0, in `status`, of the function named `function`, which did nothing."""
 
     def __init__(self, function, status, what):
         super().__init__("%s: %s" % (function, what))
@@ -125,8 +124,7 @@ class Error(Exception):
 
 
 class InvalidArgument(Error, ValueError):
-    """An invalid parameter, whose name is `parameter` and whose place, counted from 1,
-    `position`."""
+    """An invalid argument, for the parameter named `parameter` at `position`, counted from 1."""
 
     def __init__(self, function, status):
         self.position = _POSITIONS.get((function, status), status - _FIRST_PARAMETER + 1)
@@ -161,8 +159,8 @@ def _bound(library, name):
     return function
 
 
-# PyDLL keeps the interpreter's lock during a call, where CDLL would give it up: strings that share
-# their text must not be copied, edited or destroyed by two threads at once.
+# PyDLL holds the interpreter's lock during a call; CDLL would release it. Strings that share their
+# text must not be copied, edited or destroyed by two threads at once.
 try:
     _library = ctypes.PyDLL(_library_name())
 except OSError as error:
@@ -174,20 +172,19 @@ _functions = {name: _bound(_library, name) for name in FUNCTIONS}
 
 
 def call(name, *arguments):
-    """Calls a function of the handle interface; a status other than 0 is raised."""
+    """Calls a function of the handle interface and raises an Error for a status other than 0."""
     _functions[name](*arguments)
 
 
 def result(name, *arguments):
-    """What the function writes to its last parameter, given all arguments but that one."""
+    """Calls a function with all arguments but the last and returns what it writes there."""
     out = FUNCTIONS[name][-1][1]._type_()
     call(name, *arguments, ctypes.byref(out))
     return out.value
 
 
 class _Object:
-    """Something that a create function made. It is destroyed when this object dies or, at the
-    latest, when the interpreter exits."""
+    """Owns an object of the library, and destroys it with itself or when the interpreter exits."""
 
     _DESTROY = None
 
@@ -304,7 +301,7 @@ class String(_Object):
 
 
 class MutableString(String):
-    """A string that can be edited. It takes a text of its own before the first edit.
+    """A string that can be edited. It copies a shared text before the first edit.
 
     Edits return the string, so that they chain; the three that may have nothing to do return
     whether they did something."""
@@ -369,7 +366,7 @@ class MutableString(String):
 
 
 class StringArray(_Object):
-    """A list of strings. The library's array owns none of them, so this object keeps them."""
+    """A list of strings. The library's array does not own its strings, so this object does."""
 
     _DESTROY = "ZRStringPtrArrayDestroy"
 
@@ -401,7 +398,7 @@ class StringArray(_Object):
         del self._strings[index]
 
     def insert(self, index, string):
-        """Inserts before an entry, which must be there."""
+        """Inserts a string before the entry at `index`, which must exist."""
         string = _operand(string)
         call("InsertZRStringRefAt", self, self._index(index), string)
         self._strings.insert(index, string)
