@@ -55,7 +55,7 @@ awk -v here="$system" -v option="${1-}" -v calls=1000 -v table="$work/table" '
       if (option != "--record" && more > recorded + 2)
         complain(name ": " more ", " recorded " recorded")
       delete counted[name]
-      $0 = sprintf("%4d %s", more, name)
+      $0 = sprintf("%6d %s", more, name)
     } else {
       complain(name ": not counted")
     }
