@@ -37,10 +37,13 @@ configure_file(cmake/zrstring.pc.in zrstring.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrstring.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
-# GDB loads the script by itself if it finds it below its auto-load directory (share/gdb/auto-load,
-# with the prefix /usr) under the full path of the library. The prefix in that path is the one given
-# when installing, which may differ from the one configured.
-if(NOT WIN32)
+# What shows strings in the system's debugger. GDB loads its script by itself if it finds it below its
+# auto-load directory (share/gdb/auto-load, with the prefix /usr) under the full path of the library.
+# The prefix in that path is the one given when installing, which may differ from the one configured.
+if(WIN32)
+  install(FILES tools/debugger/ZRString.natvis
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
+else()
   set(zrstring_installed_libdir "\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}")
   if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
     set(zrstring_installed_libdir "${CMAKE_INSTALL_LIBDIR}")
@@ -50,8 +53,6 @@ if(NOT WIN32)
     COMPONENT Development
     RENAME libZRString.so.${PROJECT_VERSION}-gdb.py)
 endif()
-install(FILES tools/debugger/ZRString.natvis
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)
 
 if(PROJECT_IS_TOP_LEVEL)
   add_custom_target(uninstall
@@ -59,7 +60,4 @@ if(PROJECT_IS_TOP_LEVEL)
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     COMMENT "Removing what was last installed from this build folder"
     VERBATIM)
-  if(CMAKE_SYSTEM_NAME STREQUAL Linux)
-    include(cmake/Packages.cmake)
-  endif()
 endif()

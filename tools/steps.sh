@@ -21,7 +21,7 @@ logged() {
   status=$?
   set -e
   [ "$status" -eq 0 ] || {
-    tail -n 100 "$log" >&2
+    tail -n 50 "$log" >&2
     die "exit status $status from: $* (output in $log)"
   }
 }

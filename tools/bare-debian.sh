@@ -1,0 +1,42 @@
+# shellcheck shell=bash
+# Sourced by scripts that try something on a bare Debian system, after tools/steps.sh and with the
+# project's folder in $top. They must run as root and have debootstrap. $work is a scratch folder.
+
+: "${top:?}"
+[ "$(id -u)" -eq 0 ] || die "must be run as root"
+command -v debootstrap > /dev/null || die "debootstrap is not installed"
+work=$(mktemp -d "${TMPDIR:-/var/tmp}/zrstring.XXXXXX")
+chmod 755 "$work"
+trap 'rm -rf --one-file-system "$work"' EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM
+
+# make_debian CODENAME FOLDER [OPTION...]: a system of essential packages and apt in FOLDER.
+make_debian() {
+  local codename=$1 root=$2
+  shift 2
+  unshare --mount --propagation private debootstrap --variant=minbase "$@" \
+    --keyring=/usr/share/keyrings/debian-archive-keyring.gpg \
+    "$codename" "$root" "$("$top/tools/debian-mirror")"
+  apt-config dump Acquire | grep -E '^Acquire::(https?::|Check-|Retries)' \
+    > "$root/etc/apt/apt.conf.d/90acquire" || true
+}
+
+# in_debian FOLDER COMMAND...: runs COMMAND in that system. What is mounted for it exists only in its
+# own mount namespace and vanishes with its last process.
+in_debian() {
+  local root=$1
+  shift
+  # shellcheck disable=SC2016 # expanded by the shell in there
+  unshare --mount --propagation private bash -ec '
+    mount -t proc proc "$1/proc"
+    mount --bind /dev "$1/dev"
+    exec chroot "$@"' in_debian "$root" env -i HOME=/root TERM=dumb \
+    PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"
+}
+
+# copy_project FOLDER: the project's sources, as they are now, without what was built from them.
+copy_project() {
+  mkdir -p "$1"
+  tar -C "$top" --exclude=./build --exclude=./.git -c . | tar -C "$1" -x
+}
