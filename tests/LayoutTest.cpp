@@ -15,12 +15,13 @@ static_assert(offsetof(UniStr255, units) == 8);
 
 namespace {
 
-/// The slot of a virtual member function, as the C++ ABI of GCC and Clang keeps it in a pointer.
+/// The slot of a virtual member function. A pointer to one holds, in the C++ ABI of GCC and Clang,
+/// its offset in the table, plus 1 on most processors but not on ARM.
 template <typename Pointer>
 std::ptrdiff_t Slot(Pointer member) {
   std::ptrdiff_t value;
   std::memcpy(&value, &member, sizeof value);
-  return (value - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
+  return value / static_cast<std::ptrdiff_t>(sizeof(void*));
 }
 
 }  // namespace
