@@ -8,6 +8,8 @@ namespace {
 using Icu = IcuTexts;
 using ZR = ZRTexts;
 
+constexpr ZRLong kEnd = kZRToEnd;
+
 bool NormalizeIcu(icu::UnicodeString& text) {
   UErrorCode status = U_ZERO_ERROR;
   if (icu::Normalizer::quickCheck(text, UNORM_NFC, status) == UNORM_YES)
@@ -27,31 +29,29 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.Compare(t.start, t.length, t.twin, t.start, t.length); }},
       {"Compare, -1",
        [](Icu& t) { return t.text.compare(t.start, t.length, t.twin, t.start, t.length); },
-       [](ZR& t) { return t.text.Compare(t.start, kZRToEnd, t.twin, t.start, kZRToEnd); }},
+       [](ZR& t) { return t.text.Compare(t.start, kEnd, t.twin, t.start, kEnd); }},
       {"Compare, raw",
        [](Icu& t) { return t.text.compare(t.start, t.length, t.twin.Raw(), t.start, t.length); },
-       [](ZR& t) { return t.text.Compare(t.start, kZRToEnd, t.twin.Raw(), t.start, t.length); }},
+       [](ZR& t) { return t.text.Compare(t.start, kEnd, t.twin.Raw(), t.start, t.length); }},
       {"CompareBetween",
        [](Icu& t) { return t.text.compareBetween(t.start, t.length, t.twin, t.start, t.length); },
        [](ZR& t) { return t.text.CompareBetween(t.start, t.last, t.twin, t.start, t.last); },
        "ZRStringCompare",
        [](ZR& t) {
-         return ZRStringCompare(t.textHandle, t.start, kZRToEnd, t.twinHandle, t.start, kZRToEnd,
+         return ZRStringCompare(t.textHandle, t.start, kEnd, t.twinHandle, t.start, kEnd,
                                 &t.result);
        }},
       {"CompareCodePointOrder",
        [](Icu& t) {
          return t.text.compareCodePointOrder(t.start, t.length, t.twin, t.start, t.length);
        },
-       [](ZR& t) {
-         return t.text.CompareCodePointOrder(t.start, kZRToEnd, t.twin, t.start, kZRToEnd);
-       }},
+       [](ZR& t) { return t.text.CompareCodePointOrder(t.start, kEnd, t.twin, t.start, kEnd); }},
       {"CompareCodePointOrder, raw",
        [](Icu& t) {
          return t.text.compareCodePointOrder(t.start, t.length, t.twin.Raw(), t.start, t.length);
        },
        [](ZR& t) {
-         return t.text.CompareCodePointOrder(t.start, kZRToEnd, t.twin.Raw(), t.start, t.length);
+         return t.text.CompareCodePointOrder(t.start, kEnd, t.twin.Raw(), t.start, t.length);
        }},
       {"CompareCodePointOrderBetween",
        [](Icu& t) {
@@ -62,22 +62,19 @@ const std::vector<Operation>& Operations() {
        },
        "ZRStringCompareCodePointOrder",
        [](ZR& t) {
-         return ZRStringCompareCodePointOrder(t.textHandle, t.start, kZRToEnd, t.twinHandle,
-                                              t.start, kZRToEnd, &t.result);
+         return ZRStringCompareCodePointOrder(t.textHandle, t.start, kEnd, t.twinHandle, t.start,
+                                              kEnd, &t.result);
        }},
       {"ICompare, option 0",
        [](Icu& t) { return t.text.caseCompare(t.start, t.length, t.upper, t.start, t.length, 0); },
        [](ZR& t) {
-         return t.text.ICompare(t.start, kZRToEnd, t.upper, t.start, kZRToEnd,
-                                kZRCompareIgnoreCase);
+         return t.text.ICompare(t.start, kEnd, t.upper, t.start, kEnd, kZRCompareIgnoreCase);
        }},
       {"ICompare, option 0, raw",
        [](Icu& t) {
          return t.text.caseCompare(t.start, t.length, t.upper.Raw(), t.start, t.length, 0);
        },
-       [](ZR& t) {
-         return t.text.ICompare(t.start, kZRToEnd, t.upper.Raw(), t.start, t.length, 0);
-       }},
+       [](ZR& t) { return t.text.ICompare(t.start, kEnd, t.upper.Raw(), t.start, t.length, 0); }},
       {"ICompareBetween, option 0",
        [](Icu& t) {
          return t.text.caseCompareBetween(t.start, t.length, t.upper, t.start, t.length, 0);
@@ -85,12 +82,12 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.ICompareBetween(t.start, t.last, t.upper, t.start, t.last, 0); },
        "ZRStringICompare",
        [](ZR& t) {
-         return ZRStringICompare(t.textHandle, t.start, kZRToEnd, t.upperHandle, t.start, kZRToEnd,
-                                 0, &t.result);
+         return ZRStringICompare(t.textHandle, t.start, kEnd, t.upperHandle, t.start, kEnd, 0,
+                                 &t.result);
        }},
       {"ICompare, option 3", [](Icu& t) { return t.collator->compare(t.text, t.upper); },
        [](ZR& t) {
-         return t.text.ICompare(t.start, kZRToEnd, t.upper, t.start, kZRToEnd, kZRCompareCollated);
+         return t.text.ICompare(t.start, kEnd, t.upper, t.start, kEnd, kZRCompareCollated);
        }},
       {"ICompare, option 3, ranges",
        [](Icu& t) {
@@ -105,7 +102,7 @@ const std::vector<Operation>& Operations() {
          return t.collator->compare(t.text, icu::UnicodeString(t.upper.Raw(), t.length));
        },
        [](ZR& t) {
-         return t.text.ICompare(t.start, kZRToEnd, t.upper.Raw(), t.start, t.length,
+         return t.text.ICompare(t.start, kEnd, t.upper.Raw(), t.start, t.length,
                                 kZRCompareCollated);
        }},
       {"ICompareBetween, option 3",
@@ -125,12 +122,12 @@ const std::vector<Operation>& Operations() {
       {"operator>=", [](Icu& t) { return t.text >= t.twin; },
        [](ZR& t) { return t.text >= t.twin; }},
       {"StartsWith", [](Icu& t) { return t.text.startsWith(t.prefix, t.start, t.prefix.length); },
-       [](ZR& t) { return t.text.StartsWith(t.prefix, t.start, kZRToEnd); }},
+       [](ZR& t) { return t.text.StartsWith(t.prefix, t.start, kEnd); }},
       {"StartsWith, raw",
        [](Icu& t) { return t.text.startsWith(t.prefix.Raw(), t.start, t.prefix.length); },
        [](ZR& t) { return t.text.StartsWith(t.prefix.Raw(), t.start, t.prefix.length); }},
       {"EndsWith", [](Icu& t) { return t.text.endsWith(t.suffix, t.start, t.suffix.length); },
-       [](ZR& t) { return t.text.EndsWith(t.suffix, t.start, kZRToEnd); }},
+       [](ZR& t) { return t.text.EndsWith(t.suffix, t.start, kEnd); }},
       {"EndsWith, raw",
        [](Icu& t) { return t.text.endsWith(t.suffix.Raw(), t.start, t.suffix.length); },
        [](ZR& t) { return t.text.EndsWith(t.suffix.Raw(), t.start, t.suffix.length); }},
@@ -138,38 +135,30 @@ const std::vector<Operation>& Operations() {
        [](Icu& t) {
          return t.text.indexOf(t.pattern, t.start, t.pattern.length, t.start, t.length);
        },
-       [](ZR& t) { return t.text.Find(t.pattern, t.start, kZRToEnd, t.start, kZRToEnd); },
-       "ZRStringFind",
-       [](ZR& t) {
-         return ZRStringFind(t.textHandle, t.start, kZRToEnd, t.patternHandle, &t.result);
-       }},
+       [](ZR& t) { return t.text.Find(t.pattern, t.start, kEnd, t.start, kEnd); }, "ZRStringFind",
+       [](ZR& t) { return ZRStringFind(t.textHandle, t.start, kEnd, t.patternHandle, &t.result); }},
       {"Find, raw",
        [](Icu& t) {
          return t.text.indexOf(t.pattern.Raw(), t.start, t.pattern.length, t.start, t.length);
        },
-       [](ZR& t) {
-         return t.text.Find(t.pattern.Raw(), t.start, t.pattern.length, t.start, kZRToEnd);
-       },
+       [](ZR& t) { return t.text.Find(t.pattern.Raw(), t.start, t.pattern.length, t.start, kEnd); },
        "ZRStringFindUniChars",
        [](ZR& t) {
-         return ZRStringFindUniChars(t.textHandle, t.start, kZRToEnd, t.pattern.units.data(),
+         return ZRStringFindUniChars(t.textHandle, t.start, kEnd, t.pattern.units.data(),
                                      t.pattern.length, &t.result);
        }},
       {"RFind",
        [](Icu& t) { return t.text.lastIndexOf(t.word, t.start, t.word.length, t.start, t.length); },
-       [](ZR& t) { return t.text.RFind(t.word, t.start, kZRToEnd, t.start, kZRToEnd); },
-       "ZRStringRFind",
-       [](ZR& t) {
-         return ZRStringRFind(t.textHandle, t.start, kZRToEnd, t.wordHandle, &t.result);
-       }},
+       [](ZR& t) { return t.text.RFind(t.word, t.start, kEnd, t.start, kEnd); }, "ZRStringRFind",
+       [](ZR& t) { return ZRStringRFind(t.textHandle, t.start, kEnd, t.wordHandle, &t.result); }},
       {"RFind, raw",
        [](Icu& t) {
          return t.text.lastIndexOf(t.word.Raw(), t.start, t.word.length, t.start, t.length);
        },
-       [](ZR& t) { return t.text.RFind(t.word.Raw(), t.start, t.word.length, t.start, kZRToEnd); },
+       [](ZR& t) { return t.text.RFind(t.word.Raw(), t.start, t.word.length, t.start, kEnd); },
        "ZRStringRFindUniChars",
        [](ZR& t) {
-         return ZRStringRFindUniChars(t.textHandle, t.start, kZRToEnd, t.word.units.data(),
+         return ZRStringRFindUniChars(t.textHandle, t.start, kEnd, t.word.units.data(),
                                       t.word.length, &t.result);
        }},
       {"LastIndexOf", [](Icu& t) { return t.text.lastIndexOf(t.unit); },
@@ -188,11 +177,10 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.text.GetBuffer(); }, "ZRStringGetBuffer",
        [](ZR& t) { return ZRStringGetBuffer(t.textHandle, &t.buffer); }},
       {"Extract", [](Icu& t) { t.text.extract(t.start, t.length, t.target.data(), t.start); },
-       [](ZR& t) { t.text.Extract(t.start, kZRToEnd, t.target.data(), t.start); },
+       [](ZR& t) { t.text.Extract(t.start, kEnd, t.target.data(), t.start); },
        "ZRStringExtractIntoUniChars",
        [](ZR& t) {
-         return ZRStringExtractIntoUniChars(t.textHandle, t.start, kZRToEnd, t.target.data(),
-                                            t.start);
+         return ZRStringExtractIntoUniChars(t.textHandle, t.start, kEnd, t.target.data(), t.start);
        }},
       {"Extract of four units",
        [](Icu& t) { t.text.extract(t.middle, t.four, t.target.data(), t.start); },
@@ -235,9 +223,9 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return (t.edited + t.prefix).GetLength(); }},
 
       {"SetTo", [](Icu& t) { t.edited.setTo(t.text, t.start, t.length); },
-       [](ZR& t) { t.edited.SetTo(t.text, t.start, kZRToEnd); }, "ZRMutableStringSetToZRString",
+       [](ZR& t) { t.edited.SetTo(t.text, t.start, kEnd); }, "ZRMutableStringSetToZRString",
        [](ZR& t) {
-         return ZRMutableStringSetToZRString(t.editedHandle, t.textHandle, t.start, kZRToEnd);
+         return ZRMutableStringSetToZRString(t.editedHandle, t.textHandle, t.start, kEnd);
        }},
       {"SetTo, raw", [](Icu& t) { t.edited.setTo(t.whole.Raw(), t.length); },
        [](ZR& t) { t.edited.SetTo(t.whole.Raw(), t.length); }},
@@ -247,7 +235,7 @@ const std::vector<Operation>& Operations() {
       {"operator+= unit", [](Icu& t) { t.edited += t.unit; }, [](ZR& t) { t.edited += t.unit; }},
       {"operator+=", [](Icu& t) { t.edited += t.pattern; }, [](ZR& t) { t.edited += t.pattern; }},
       {"Append", [](Icu& t) { t.edited.append(t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Append(t.pattern, t.start, kZRToEnd); }, "ZRMutableStringAppend",
+       [](ZR& t) { t.edited.Append(t.pattern, t.start, kEnd); }, "ZRMutableStringAppend",
        [](ZR& t) { return ZRMutableStringAppend(t.editedHandle, t.patternHandle); }},
       {"Append, raw", [](Icu& t) { t.edited.append(t.pattern.Raw(), t.start, t.pattern.length); },
        [](ZR& t) { t.edited.Append(t.pattern.Raw(), t.start, t.pattern.length); },
@@ -257,10 +245,9 @@ const std::vector<Operation>& Operations() {
                                               t.pattern.length);
        }},
       {"Insert", [](Icu& t) { t.edited.insert(t.middle, t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Insert(t.middle, t.pattern, t.start, kZRToEnd); },
-       "ZRMutableStringInsert",
+       [](ZR& t) { t.edited.Insert(t.middle, t.pattern, t.start, kEnd); }, "ZRMutableStringInsert",
        [](ZR& t) {
-         return ZRMutableStringInsert(t.editedHandle, t.middle, t.patternHandle, t.start, kZRToEnd);
+         return ZRMutableStringInsert(t.editedHandle, t.middle, t.patternHandle, t.start, kEnd);
        }},
       {"Insert, raw",
        [](Icu& t) { t.edited.insert(t.middle, t.pattern.Raw(), t.start, t.pattern.length); },
@@ -272,7 +259,7 @@ const std::vector<Operation>& Operations() {
        }},
       {"Replace",
        [](Icu& t) { t.edited.replace(t.middle, t.four, t.pattern, t.start, t.pattern.length); },
-       [](ZR& t) { t.edited.Replace(t.middle, t.four, t.pattern, t.start, kZRToEnd); },
+       [](ZR& t) { t.edited.Replace(t.middle, t.four, t.pattern, t.start, kEnd); },
        "ZRMutableStringReplaceBetween",
        [](ZR& t) {
          return ZRMutableStringReplaceBetween(t.editedHandle, t.middle, t.four, t.patternHandle);
@@ -293,22 +280,21 @@ const std::vector<Operation>& Operations() {
        [](Icu& t) { t.edited.replaceBetween(t.start, t.length, t.twin, t.start, t.length); },
        [](ZR& t) { t.edited.ReplaceBetween(t.start, t.last, t.twin, t.start, t.last); }},
       {"Remove", [](Icu& t) { t.edited.remove(t.middle, t.length); },
-       [](ZR& t) { t.edited.Remove(t.middle, kZRToEnd); }},
+       [](ZR& t) { t.edited.Remove(t.middle, kEnd); }},
       {"RemoveBetween", [](Icu& t) { t.edited.removeBetween(t.middle, t.length); },
        [](ZR& t) { t.edited.RemoveBetween(t.middle, t.last); }, "ZRMutableStringRemoveBetween",
-       [](ZR& t) { return ZRMutableStringRemoveBetween(t.editedHandle, t.middle, kZRToEnd); }},
+       [](ZR& t) { return ZRMutableStringRemoveBetween(t.editedHandle, t.middle, kEnd); }},
       {"FindAndReplace",
        [](Icu& t) {
          t.edited.findAndReplace(t.start, t.length, t.word, t.start, t.word.length, t.word, t.start,
                                  t.word.length);
        },
        [](ZR& t) {
-         t.edited.FindAndReplace(t.start, kZRToEnd, t.word, t.start, kZRToEnd, t.word, t.start,
-                                 kZRToEnd);
+         t.edited.FindAndReplace(t.start, kEnd, t.word, t.start, kEnd, t.word, t.start, kEnd);
        },
        "ZRMutableStringFindAndReplace",
        [](ZR& t) {
-         return ZRMutableStringFindAndReplace(t.editedHandle, t.start, kZRToEnd, t.wordHandle,
+         return ZRMutableStringFindAndReplace(t.editedHandle, t.start, kEnd, t.wordHandle,
                                               t.wordHandle);
        }},
       {"FindAndReplace, raw",
@@ -319,8 +305,8 @@ const std::vector<Operation>& Operations() {
                                  t.start, t.word.length);
        },
        [](ZR& t) {
-         t.edited.FindAndReplace(t.start, kZRToEnd, t.word.Raw(), t.start, t.word.length,
-                                 t.word.Raw(), t.start, t.word.length);
+         t.edited.FindAndReplace(t.start, kEnd, t.word.Raw(), t.start, t.word.length, t.word.Raw(),
+                                 t.start, t.word.length);
        }},
       {"Normalize, composed text", [](Icu& t) { return NormalizeIcu(t.edited); },
        [](ZR& t) { return t.edited.Normalize(kZRNormalizationNFC); }},
@@ -345,14 +331,14 @@ const std::vector<Operation>& Operations() {
        "ZRMutableStringTrim", [](ZR& t) { return ZRMutableStringTrim(t.editedHandle); },
        Before::kSpaced},
       {"Reverse", [](Icu& t) { t.edited.reverse(t.start, t.length); },
-       [](ZR& t) { t.edited.Reverse(t.start, kZRToEnd); }, "ZRMutableStringReverse",
-       [](ZR& t) { return ZRMutableStringReverse(t.editedHandle, t.start, kZRToEnd); }},
+       [](ZR& t) { t.edited.Reverse(t.start, kEnd); }, "ZRMutableStringReverse",
+       [](ZR& t) { return ZRMutableStringReverse(t.editedHandle, t.start, kEnd); }},
       {"ToUpper", [](Icu& t) { t.edited.toUpper(); }, [](ZR& t) { t.edited.ToUpper(); },
        "ZRMutableStringToUpper", [](ZR& t) { return ZRMutableStringToUpper(t.editedHandle); }},
       {"ToLower", [](Icu& t) { t.edited.toLower(); }, [](ZR& t) { t.edited.ToLower(); },
        "ZRMutableStringToLower", [](ZR& t) { return ZRMutableStringToLower(t.editedHandle); }},
       {"Extract to a string", [](Icu& t) { t.source.extract(t.start, t.length, t.edited); },
-       [](ZR& t) { t.source.Extract(t.start, kZRToEnd, t.edited); }},
+       [](ZR& t) { t.source.Extract(t.start, kEnd, t.edited); }},
       {"ExtractBetween to a string",
        [](Icu& t) { t.source.extractBetween(t.start, t.length, t.edited); },
        [](ZR& t) { t.source.ExtractBetween(t.start, t.last, t.edited); }},

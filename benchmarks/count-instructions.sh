@@ -15,7 +15,9 @@ quietly cmake --build --preset benchmark --target count-calls
 quietly valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$work/out" \
   --log-file="$work/valgrind" build/benchmark/benchmarks/count-calls
 
-system="$(. /etc/os-release && echo "${NAME%% *} ${VERSION_ID-}"), $(uname -m), $(cat "$work/log")"
+# shellcheck source=/dev/null
+distribution=$(. /etc/os-release && echo "${NAME%% *} ${VERSION_ID-}")
+system="$distribution, $(uname -m), $(cat "$work/log")"
 # The dumps are out.1, out.2 and so on, in the order of the calls. A line of counts: NAME|SIDE|NUMBER.
 i=1
 while [ -f "$work/out.$i" ]; do
