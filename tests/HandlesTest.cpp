@@ -207,7 +207,6 @@ TEST_F(Statuses, TheFirstInvalidParameterCountsAndNothingIsWritten) {
   }
   std::ifstream list(ZRSTRING_PLAIN_EXPORTS);
   const std::set<std::string> exported{std::istream_iterator<std::string>(list), {}};
-  EXPECT_EQ(exported.size(), 60u);
   EXPECT_EQ(names, exported);
 }
 
