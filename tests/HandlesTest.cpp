@@ -21,10 +21,6 @@
 
 namespace {
 
-using Immutable = ZRAccessorStringDKInterfaceImpl;
-using Mutable = ZRMutableStringDKInterfaceImpl;
-using Array = ZRStringCDKInterfaceImpl;
-
 /// An argument with its type taken away: a pointer or an integer.
 using Word = std::uintptr_t;
 
@@ -63,74 +59,10 @@ struct Row {
   const char* parameters;  // their kinds
 };
 
-#define ZR_BOTH(family, name) #name, Erased(&::name), Erased(&family::name)
-#define ZR_ARRAY(name, member) #name, Erased(&::name), Erased(&Array::member)
+#define ZR_ROW(name, member, parameters) {#name, Erased(&::name), Erased(&member), parameters},
 
 const Row kRows[] = {
-    {ZR_BOTH(Immutable, ZRStringCreateFromUniChars), "units start toEnd out"},
-    {ZR_BOTH(Immutable, ZRStringCreateFromLocalString), "bytes start toEnd out"},
-    {ZR_BOTH(Immutable, ZRStringCreateFromCString), "bytes start length out"},
-    {ZR_BOTH(Immutable, ZRStringCreateCopy), "string out"},
-    {ZR_BOTH(Immutable, ZRStringCreateCopyRange), "string start toEnd out"},
-    {ZR_BOTH(Immutable, ZRStringDestroy), "string"},
-    {ZR_BOTH(Immutable, ZRStringCompare), "string start toEnd string start toEnd out"},
-    {ZR_BOTH(Immutable, ZRStringCompareCodePointOrder),
-     "string start toEnd string start toEnd out"},
-    {ZR_BOTH(Immutable, ZRStringICompare), "string start toEnd string start toEnd any out"},
-    {ZR_BOTH(Immutable, ZRStringFind), "string start toEnd string out"},
-    {ZR_BOTH(Immutable, ZRStringFindUniChars), "string start toEnd any length out"},
-    {ZR_BOTH(Immutable, ZRStringRFind), "string start toEnd string out"},
-    {ZR_BOTH(Immutable, ZRStringRFindUniChars), "string start toEnd any length out"},
-    {ZR_BOTH(Immutable, ZRStringGetUniCharsAt), "string any count out"},
-    {ZR_BOTH(Immutable, ZRStringExtractIntoUniChars), "string start toEnd out start"},
-    {ZR_BOTH(Immutable, ZRStringGetLength), "string out"},
-    {ZR_BOTH(Immutable, ZRStringIsEmpty), "string out"},
-    {ZR_BOTH(Immutable, ZRStringGetBuffer), "string out"},
-    {ZR_BOTH(Immutable, ZRStringLastIndexOf), "string any out"},
-
-    {ZR_BOTH(Mutable, ZRMutableStringCreateEmpty), "out"},
-    {ZR_BOTH(Mutable, ZRMutableStringCreateFromUniChars), "units start length out"},
-    {ZR_BOTH(Mutable, ZRMutableStringCreateCopy), "string out"},
-    {ZR_BOTH(Mutable, ZRMutableStringCreateCopyRange), "string start toEnd out"},
-    {ZR_BOTH(Mutable, ZRMutableStringCreateFromLocalString), "bytes start length out"},
-    {ZR_BOTH(Mutable, ZRMutableStringCreateFromCString), "bytes start length out"},
-    {ZR_BOTH(Mutable, ZRMutableStringDestroy), "mutable"},
-    {ZR_BOTH(Mutable, ZRMutableStringSetUniCharAt), "mutable start any"},
-    {ZR_BOTH(Mutable, ZRMutableStringSetToZRString), "mutable string start toEnd"},
-    {ZR_BOTH(Mutable, ZRMutableStringAppend), "mutable string"},
-    {ZR_BOTH(Mutable, ZRMutableStringAppendUniChars), "mutable units start length"},
-    {ZR_BOTH(Mutable, ZRMutableStringInsert), "mutable start string start toEnd"},
-    {ZR_BOTH(Mutable, ZRMutableStringInsertUniChars), "mutable start units start length"},
-    {ZR_BOTH(Mutable, ZRMutableStringReplaceBetween), "mutable start toEnd string"},
-    {ZR_BOTH(Mutable, ZRMutableStringReplaceWithUniChars),
-     "mutable start toEnd units start length"},
-    {ZR_BOTH(Mutable, ZRMutableStringFindAndReplace), "mutable start toEnd string string"},
-    {ZR_BOTH(Mutable, ZRMutableStringRemoveBetween), "mutable start toEnd"},
-    {ZR_BOTH(Mutable, ZRMutableStringPadLeading), "mutable start any out"},
-    {ZR_BOTH(Mutable, ZRMutableStringPadTrailing), "mutable start any out"},
-    {ZR_BOTH(Mutable, ZRMutableStringTruncate), "mutable start out"},
-    {ZR_BOTH(Mutable, ZRMutableStringTrim), "mutable"},
-    {ZR_BOTH(Mutable, ZRMutableStringToUpper), "mutable"},
-    {ZR_BOTH(Mutable, ZRMutableStringToLower), "mutable"},
-    {ZR_BOTH(Mutable, ZRMutableStringGetBufferWithCapacity), "mutable toEnd out"},
-    {ZR_BOTH(Mutable, ZRMutableStringGetCapacity), "mutable out"},
-    {ZR_BOTH(Mutable, ZRMutableStringReleaseBuffer), "mutable toEnd"},
-    {ZR_BOTH(Mutable, ZRMutableStringReverse), "mutable start toEnd"},
-    {ZR_BOTH(Mutable, ZRMutableStringAddStrings), "string string out"},
-    {ZR_BOTH(Mutable, ZRMutableStringLastIndexOf), "mutable any out"},
-
-    {ZR_ARRAY(ZRStringPtrArrayCreate, ZRSPtrArrayCreate), "out"},
-    {ZR_ARRAY(ZRStrPtrArrCreateFromZRStrPtrArr, ZRSPtrArrayCreateFromZRSPtrArray), "array out"},
-    {ZR_ARRAY(ZRStringPtrArrayDestroy, ZRSPtrArrayDestroy), "array"},
-    {ZR_ARRAY(ZRStringPtrArraySize, ZRSPtrArraySize), "array out"},
-    {ZR_ARRAY(ZRStringPtrArrayIsEmpty, ZRSPtrArrayIsEmpty), "array out"},
-    {ZR_ARRAY(GetZRStringRefAt, ZRSPtrArrayGetZRStringRefAt), "array any out"},
-    {ZR_ARRAY(SetZRStringRefAt, ZRSPtrArraySetZRStringRefAt), "array any string"},
-    {ZR_ARRAY(InsertZRStringRefAt, ZRSPtrArrayInsertZRStringRefAt), "array any string"},
-    {ZR_ARRAY(ZRStringPtrArrayPushBack, ZRSPtrArrayPushBack), "array string"},
-    {ZR_ARRAY(ZRStringPtrArrayErase, ZRSPtrArrayErase), "array index"},
-    {ZR_ARRAY(ZRStringPtrArrayEraseAll, ZRSPtrArrayEraseAll), "array"},
-    {ZR_ARRAY(ZRStringPtrArrayDeleteAll, ZRSPtrArrayDeleteAll), "array"},
+#include "HandleRows.inc"
 };
 
 class Statuses : public testing::Test {
@@ -180,9 +112,8 @@ class Statuses : public testing::Test {
       {"units", {W(string.GetBuffer()), {0}}},
       {"bytes", {W("abc"), {0}}},
       {"out", {W(out), {0}}},
-      {"start", {W(0), {W(-1), W(INT_MIN)}}},
+      {"notNegative", {W(0), {W(-1), W(-2), W(INT_MIN)}}},
       {"toEnd", {W(-1), {W(-2), W(INT_MIN)}}},
-      {"length", {W(1), {W(-1), W(-2), W(INT_MIN)}}},
       {"count", {W(1), {W(0), W(-1), W(INT_MIN)}}},
       {"index", {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, 12}},
       {"any", {W(0), {}}},

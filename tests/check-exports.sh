@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
 # Compares what a shared library (ELF or PE) exports with what is promised, in both directions.
-# usage: check-exports.sh LIBRARY
+# usage: check-exports.sh [--update] LIBRARY
+# --update writes exports-cpp.txt, from a library for Linux. exports-plain.txt is written by hand.
 set -euo pipefail
 export LC_ALL=C
 here=$(dirname "$0")
+update=
+[ "$1" != --update ] || { update=1; shift; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -36,8 +39,10 @@ compare() {  # WHAT PROMISED ACTUAL
 
 # The vector's members vary with the standard library; all are members of the one instantiation.
 compare "plain names" "$here/exports-plain.txt" <(grep -v '^_Z' "$work/exported")
-compare "C++ names" "$work/promised-cpp" <(grep '^_Z' "$work/exported" | c++filt |
+grep '^_Z' "$work/exported" | c++filt |
   sed -E "s/\<unsigned $long\>/ZRULong/g; s/\<$long\>/ZRLong/g; s/__cxx11:://g" |
   sed -E 's/^std::vector<ZRString\*, std::allocator<ZRString\*> >::.*/std::vector<ZRString*>::*/' |
-  sort -u)
+  sort -u > "$work/exported-cpp"
+[ -z "$update" ] || cp "$work/exported-cpp" "$here/exports-cpp.txt"
+[ -n "$update" ] || compare "C++ names" "$work/promised-cpp" "$work/exported-cpp"
 echo "$(wc -l < "$work/exported") exports, as promised"

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Writes the three interface classes, which repeat the functions of ZRStringHandles.h.
+"""Writes what repeats the functions of ZRStringHandles.h: the three interface classes, and the
+rows of the test of all statuses.
 
     write-interfaces.py [--check]
 
-Run it after a change of that header and commit what it writes: include/ZRString/ZRStringInterfaces.h
-and handles/InterfaceClasses.cpp. --check only compares, and fails when they are out of date.
+Run it after a change of that header and commit what it writes: include/ZRString/ZRStringInterfaces.h,
+handles/InterfaceClasses.cpp and tests/HandleRows.inc. --check only compares, and fails when they are
+out of date.
 """
 
 import dataclasses
@@ -17,6 +19,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 HANDLES = ROOT / "include/ZRString/ZRStringHandles.h"
 INTERFACES = ROOT / "include/ZRString/ZRStringInterfaces.h"
 CLASSES = ROOT / "handles/InterfaceClasses.cpp"
+ROWS = ROOT / "tests/HandleRows.inc"
 WIDTH = 100
 
 
@@ -80,6 +83,23 @@ SOURCE_BEGIN = """\
 
 #include "string/Handles.h"
 """
+
+
+ROWS_BEGIN = """\
+// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+"""
+
+# The kinds of argument that HandlesTest.cpp knows: of a parameter by its test, or, if the test is
+# for null, by its type.
+TESTED = {"negative": "notNegative", "below -1": "toEnd", "below 1": "count"}
+NOT_NULL = {
+    "ZRStringRef__*": "string",
+    "ZRMutableStringRef__*": "mutable",
+    "ZRStringPtrArrayRef__*": "array",
+    "const unsigned short*": "units",
+    "const unsigned char*": "bytes",
+    "const char*": "bytes",
+}
 
 
 def member_name(interface, function):
@@ -155,6 +175,24 @@ def definition(interface, function):
     return f"\n{signature}\n{body}}}\n"
 
 
+def kinds(function):
+    """The kind of each parameter. An array's index is tested last: after it nothing may follow."""
+    tested = {test.parameter: test.cause for test in function.tests.values()}
+    outside = function.tests.get(handle_header.INDEX_OUTSIDE)
+    for position, (kind, name) in enumerate(function.parameters, 1):
+        if name in tested:
+            yield TESTED.get(tested[name]) or NOT_NULL.get(kind, "out")
+        elif outside and outside.cause.startswith("index") and position == len(function.parameters):
+            yield "index"
+        else:
+            yield "any"
+
+
+def row(interface, function):
+    member = f"{interface.name}::{member_name(interface, function)}"
+    return f'ZR_ROW({function.name}, {member},\n       "{" ".join(kinds(function))}")\n'
+
+
 def assignment(name):
     head, parameter = f"{name}& {name}::operator=(", f"const {name}&) ="
     if len(head + parameter) <= WIDTH:
@@ -163,7 +201,7 @@ def assignment(name):
 
 
 def written(functions):
-    header, source = HEADER_BEGIN, SOURCE_BEGIN
+    header, source, rows = HEADER_BEGIN, SOURCE_BEGIN, ROWS_BEGIN
     for interface in INTERFACE_CLASSES:
         members = [function for function in functions if function.group == interface.group]
         name = interface.name
@@ -174,7 +212,8 @@ def written(functions):
         source += f"\n{assignment(name)}\n"
         source += "".join(definition(interface, function) for function in members)
         source += interface.more_definitions
-    return {INTERFACES: header + "\n#endif\n", CLASSES: source}
+        rows += "".join(row(interface, function) for function in members)
+    return {INTERFACES: header + "\n#endif\n", CLASSES: source, ROWS: rows}
 
 
 def main():
@@ -188,7 +227,7 @@ def main():
             if not check:
                 path.write_text(text, encoding="utf-8")
     if check and stale:
-        sys.exit(f"{' and '.join(stale)} out of date: run tools/write-interfaces.py")
+        sys.exit(f"{', '.join(stale)} out of date: run tools/write-interfaces.py")
 
 
 main()
