@@ -126,8 +126,9 @@ TEST(Interop, EveryPlaceAndLength) {
       ASSERT_LE(back.capacity(), back.size() * 5 / 4);
     }
   }
-  std::u16string units(255, u'\u4E2D');
-  EXPECT_TRUE(SameToUtf8(units + u"\U0001F600"));
+  for (int length = 250; length < 260; ++length)
+    for (const char16_t* end : {u"", u"\U0001F600"})
+      EXPECT_TRUE(SameToUtf8(std::u16string(length, u'\u4E2D') + end)) << length;
 }
 
 TEST(Interop, TextsThatAreTooLongAreRefused) {

@@ -68,8 +68,9 @@ inline ZRLong Length(std::size_t size) {
   return static_cast<ZRLong>(size);
 }
 
-// ASCII goes in blocks of this many characters, which compilers turn into vector instructions.
-constexpr std::ptrdiff_t kBlock = 16;
+// ASCII is converted in blocks of this many characters, for which compilers use vector
+// instructions.
+constexpr std::ptrdiff_t kBlock = 8;
 
 // Texts of up to this many units or bytes are converted on the stack.
 constexpr ZRLong kOnStack = 256;
@@ -79,10 +80,10 @@ constexpr ZRLong kShort = 24;
 
 inline bool WidenBlock(const char* bytes, unsigned short* units) {
   unsigned char block[kBlock];
-  std::uint64_t halves[2];
+  std::uint64_t together;
   std::memcpy(block, bytes, sizeof block);
-  std::memcpy(halves, bytes, sizeof halves);
-  if ((halves[0] | halves[1]) & 0x8080808080808080)
+  std::memcpy(&together, bytes, sizeof together);
+  if (together & 0x8080808080808080)
     return false;
   for (std::ptrdiff_t i = 0; i < kBlock; ++i)
     units[i] = block[i];
@@ -91,10 +92,10 @@ inline bool WidenBlock(const char* bytes, unsigned short* units) {
 
 inline bool NarrowBlock(const char16_t* units, char* bytes) {
   char16_t block[kBlock];
-  std::uint64_t quarters[4];
+  std::uint64_t halves[2];
   std::memcpy(block, units, sizeof block);
-  std::memcpy(quarters, units, sizeof quarters);
-  if ((quarters[0] | quarters[1] | quarters[2] | quarters[3]) & 0xFF80FF80FF80FF80)
+  std::memcpy(halves, units, sizeof halves);
+  if ((halves[0] | halves[1]) & 0xFF80FF80FF80FF80)
     return false;
   for (std::ptrdiff_t i = 0; i < kBlock; ++i)
     bytes[i] = static_cast<char>(block[i]);
@@ -269,14 +270,15 @@ inline ZRString FromUtf8(std::u8string_view text) {
 inline std::string ToUtf8(std::u16string_view text) {
   constexpr std::size_t kChunk = ZRStringInteropDetail::kOnStack;
   char chunk[3 * kChunk + 1];
-  std::string bytes;
-  if (text.size() > kChunk)
-    bytes.reserve(text.size());
   const char16_t* next = text.data();
+  const char16_t* const end = next + text.size();
+  if (text.size() <= kChunk)
+    return std::string(chunk, ZRStringInteropDetail::Utf8FromUtf16(&next, end, end, chunk));
+  std::string bytes;
+  bytes.reserve(text.size());
   for (std::size_t rest = text.size(); rest > 0;) {
-    const char16_t* const end = next + rest;
-    const std::size_t size = ZRStringInteropDetail::Utf8FromUtf16(
-        &next, next + (rest < kChunk ? rest : kChunk), end, chunk);
+    const char16_t* const limit = next + (rest < kChunk ? rest : kChunk);
+    const std::size_t size = ZRStringInteropDetail::Utf8FromUtf16(&next, limit, end, chunk);
     rest = static_cast<std::size_t>(end - next);
     if (bytes.capacity() - bytes.size() < size)
       bytes.reserve(bytes.size() + size + 3 * rest);
