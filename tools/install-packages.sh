@@ -31,8 +31,7 @@ apt_get() {
   until "${as_root[@]}" LC_ALL=C DEBIAN_FRONTEND=noninteractive \
     apt-get -q -o DPkg::Lock::Timeout=600 "$@" > "$log" 2>&1; do
     if [ "$SECONDS" -ge 600 ] || ! grep -q '^E: Could not get lock' "$log"; then
-      tail -n 20 "$log" >&2
-      fail "could not be installed"
+      fail "could not be installed ($(sed -n 's/^E: //p' "$log" | head -n 1))"
     fi
     "$waiting" || echo "-- waiting for another apt"
     waiting=true

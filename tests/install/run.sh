@@ -17,7 +17,7 @@ prefix=$work/moved
 top=$(cd "$tests/../.." && pwd -P)
 failures=0
 
-say() { printf '%s\n' "-- $*"; }
+. "$top/tools/steps.sh"
 fail() {
   printf 'FAILED: %s\n' "$*"
   failures=$((failures + 1))

@@ -7,9 +7,11 @@ tree: `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fields instea
     "text" (length 4, holders 1)        the text is cut at `set print elements`
 
 Everything is read from memory by its layout, so no debug information but the program's own is
-needed: not ICU's, and not this library's. Without the latter the classes are incomplete types;
-`print`, arguments and backtraces show them all the same, but `info locals` says <incomplete type>
-unless the program was compiled with -femit-class-debug-always (GCC) or -fstandalone-debug (Clang).
+needed: not ICU's, and not this library's. Without the latter the classes are incomplete types to
+GDB, and GDB 13 then shows <incomplete type> in `info locals` and for arguments passed by value;
+`print` and references show the text all the same. GDB 16 shows it everywhere. So does GDB 13 once the
+library's debug information is there (package libzrstring1-dbgsym), or if the program was compiled
+with -femit-class-debug-always (GCC) or -fstandalone-debug (Clang).
 """
 
 import gdb
