@@ -2,7 +2,11 @@
 
 #include <stdexcept>
 
+#if defined(_MSC_VER)
+template class ZR_API std::vector<ZRString*>;
+#else
 template class std::vector<ZRString*>;
+#endif
 
 namespace {
 

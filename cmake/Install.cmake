@@ -60,4 +60,7 @@ if(PROJECT_IS_TOP_LEVEL)
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     COMMENT "Removing what was last installed from this build folder"
     VERBATIM)
+  if(MINGW AND CMAKE_CROSSCOMPILING)
+    include(tools/windows/Package.cmake)
+  endif()
 endif()

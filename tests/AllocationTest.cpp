@@ -13,7 +13,7 @@
 #include "Text.h"
 
 #ifdef _WIN32
-#include "platform/ImportedOperators.h"  // there a DLL does not see the program's operators
+#include "windows/ImportedOperators.h"  // a DLL does not see the program's operators
 #endif
 
 namespace {

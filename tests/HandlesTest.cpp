@@ -50,7 +50,7 @@ struct Parameter {
   ZRLong status = 0;  // 0: 3 + position
 };
 
-Word W(ZRLong value) { return static_cast<Word>(value); }
+Word W(int value) { return static_cast<Word>(value); }
 Word W(const volatile void* pointer) { return reinterpret_cast<Word>(pointer); }
 
 struct Row {

@@ -7,8 +7,12 @@
 
 struct ZRStringPtrArrayRef__;
 
-/// The library holds the one instantiation of the vector behind the array.
+/// This vector is instantiated once, inside the library.
+#if defined(_MSC_VER) && defined(ZRString_EXPORTS)
+extern template class std::vector<ZRString*>;  // there dllexport belongs to the definition
+#else
 extern template class ZR_API std::vector<ZRString*>;
+#endif
 
 /// An ordered list of string pointers, which it does not own.
 ///

@@ -1,12 +1,12 @@
-#ifndef ZRSTRING_PLATFORM_IMPORTEDOPERATORS_H
-#define ZRSTRING_PLATFORM_IMPORTEDOPERATORS_H
+#ifndef ZRSTRING_TESTS_WINDOWS_IMPORTEDOPERATORS_H
+#define ZRSTRING_TESTS_WINDOWS_IMPORTEDOPERATORS_H
 
 #include <windows.h>
 
 #include <cstring>
 #include <new>
 
-// For tests: on Windows each module imports operator new and delete on its own.
+// On Windows each module imports operator new and delete on its own.
 
 template <typename Function>
 UINT_PTR Address(Function* function) {

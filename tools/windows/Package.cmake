@@ -1,0 +1,65 @@
+# The package for Windows, which `cpack` makes: a ZIP archive with the library and all that it
+# loads. The DLLs lie beside the programs in the build folder too, so that these can be run.
+find_program(ZRSTRING_DLLTOOL llvm-dlltool REQUIRED)
+math(EXPR bits "${CMAKE_SIZEOF_VOID_P} * 8")
+if(bits EQUAL 32)
+  set(gcc_unwinder libgcc_s_dw2-1.dll)
+  set(dlltool_machine i386)
+  set(goarch 386)
+else()
+  set(gcc_unwinder libgcc_s_seh-1.dll)
+  set(dlltool_machine i386:x86-64)
+  set(goarch amd64)
+endif()
+
+# ICU under the names by which it is loaded, and GCC's runtime: an exception passes from one module
+# to another only if both use the same one, so it is not linked statically.
+cmake_path(GET ICU_INCLUDE_DIR PARENT_PATH icu)
+string(REGEX MATCH "^[0-9]+" icu_major "${ICU_VERSION}")
+foreach(name dt in uc)
+  list(APPEND dlls ${icu}/bin/icu${name}${icu_major}.dll)
+endforeach()
+foreach(name libstdc++-6.dll ${gcc_unwinder} libwinpthread-1.dll)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
+    OUTPUT_VARIABLE dll OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  list(APPEND dlls ${dll})
+endforeach()
+foreach(dll ${dlls})
+  cmake_path(GET dll FILENAME name)
+  set(stripped ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name})
+  add_custom_command(OUTPUT ${stripped}
+    COMMAND ${CMAKE_STRIP} -o ${stripped} ${dll} DEPENDS ${dll} VERBATIM)
+  list(APPEND stripped_dlls ${stripped})
+endforeach()
+add_custom_target(zrstring-dlls DEPENDS ${stripped_dlls})
+add_dependencies(ZRString zrstring-dlls)
+install(FILES ${stripped_dlls} DESTINATION bin COMPONENT Runtime)
+
+# For Microsoft's linker: the functions that have plain names. Decorated names are this compiler's.
+set(exports ${PROJECT_BINARY_DIR}/exports.def)
+set(def ${PROJECT_BINARY_DIR}/ZRString.def)
+set(lib ${PROJECT_BINARY_DIR}/ZRString.lib)
+target_link_options(ZRString PRIVATE -Wl,--output-def,${exports})
+add_custom_command(TARGET ZRString POST_BUILD
+  COMMAND sed -nE -e "1i LIBRARY ZRString.dll" -e "1i EXPORTS"
+    -e "s/^ *([A-Z][A-Za-z]*) @[0-9]+$/  \\1/p" ${exports} > ${def}
+  COMMAND ${ZRSTRING_DLLTOOL} -m ${dlltool_machine} -d ${def} -l ${lib}
+  BYPRODUCTS ${exports} ${def} ${lib} VERBATIM)
+install(FILES ${def} ${lib} DESTINATION lib COMPONENT Development)
+
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_NAME zrstring)
+set(CPACK_PACKAGE_FILE_NAME zrstring-${PROJECT_VERSION}-win${bits})
+set(CPACK_STRIP_FILES ON)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/README.txt.in README.txt @ONLY NEWLINE_STYLE WIN32)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/README.txt DESTINATION . COMPONENT Runtime)
+install(FILES ${icu}/share/icu/${ICU_VERSION}/LICENSE
+  DESTINATION licenses RENAME icu.txt COMPONENT Runtime)
+install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright
+  DESTINATION licenses RENAME gcc-runtime.txt COMPONENT Runtime)
+install(FILES /usr/share/doc/mingw-w64-common/copyright
+  DESTINATION licenses RENAME winpthreads.txt COMPONENT Runtime)
+install(FILES /usr/share/common-licenses/GPL-3
+  DESTINATION licenses RENAME gpl-3.txt COMPONENT Runtime)
+
+include(CPack)
