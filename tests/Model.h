@@ -86,6 +86,7 @@ enum Kind {
   kMake,        // makes a string or a mutator, which becomes the target
   kMakeString,  // a string only
   kMakeMutable,
+  kSum,     // makes a mutator by members that edit it, or a create function
   kArray,   // changes the array
   kAppend,  // changes the array entry by entry
 };
@@ -119,10 +120,11 @@ class World {
   /// Takes over what the model says of a call that has been made. @return what is wrong then
   std::string Settle(const Operation& operation, Case& c, const Result& result);
 
-  /// Where the strings and the array are not what they must be; one may be in the error state.
-  std::string Difference(std::size_t excused = SIZE_MAX) const;
+  /// What a call that threw or refused has changed; kAppend may have appended some entries.
+  std::string Unchanged(const Operation& operation, const Case& c);
 
-  std::vector<Text>& Entries() { return entries_; }
+  /// What a call has changed beside losing the target's text to ICU's error state.
+  std::string Lost(const Case& c);
 
  private:
   struct Slot {
@@ -136,6 +138,7 @@ class World {
     return values.begin()[Below(values.size())];
   }
 
+  std::string Difference() const;
   void Reset(std::size_t slot);
   ZRLong Edge(bool valid);
   RawOperand DrawRaw(Case& c, bool valid);

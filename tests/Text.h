@@ -26,7 +26,7 @@ inline ZRString Make(const Text& text) {
 
 inline Text TextOf(const ZRString& string) {
   const unsigned short* const units = string.GetBuffer();
-  return Text(units, units + string.GetLength());
+  return units ? Text(units, units + string.GetLength()) : Text();
 }
 
 /// A string is a virtual table and a body; a body begins with its count.

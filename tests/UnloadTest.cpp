@@ -2,9 +2,8 @@
 #include <gtest/gtest.h>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
-#include <unicode/uclean.h>
 
-#include <cstdlib>
+#include "Memory.h"
 
 // Loading and unloading is the system's own affair, so this test has a word for each.
 #ifdef _WIN32
@@ -25,23 +24,6 @@ static void* Symbol(void* library, const char* name) { return dlsym(library, nam
 #endif
 
 namespace {
-
-long icuBlocks = 0;
-
-void* U_CALLCONV Allocate(const void*, std::size_t size) {
-  ++icuBlocks;
-  return std::malloc(size);
-}
-
-void* U_CALLCONV Reallocate(const void*, void* memory, std::size_t size) {
-  icuBlocks += memory == nullptr;
-  return std::realloc(memory, size);
-}
-
-void U_CALLCONV Free(const void*, void* memory) {
-  icuBlocks -= memory != nullptr;
-  std::free(memory);
-}
 
 template <typename Function>
 Function* Find(void* library, const char* name) {
@@ -70,7 +52,7 @@ int Collated(void* library) {
 // stay behind at each round.
 TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
   UErrorCode status = U_ZERO_ERROR;
-  u_setMemoryFunctions(nullptr, Allocate, Reallocate, Free, &status);
+  TakeIcuMemory();
   icu::Locale::setDefault(icu::Locale("de@collation=phonebook"), status);
   delete icu::Collator::createInstance(status);  // ICU's own data stay loaded from here on
   ASSERT_TRUE(U_SUCCESS(status));
@@ -79,13 +61,13 @@ TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
     SCOPED_TRACE(round);
     void* const library = Load();
     ASSERT_NE(library, nullptr);
-    const long before = icuBlocks;
+    const long before = icuMemory.live;
     ASSERT_EQ(Collated(library), -1);
-    EXPECT_GT(icuBlocks, before);
+    EXPECT_GT(icuMemory.live, before);
     Unload(library);
     ASSERT_FALSE(IsLoaded());
     if (round == 0)
-      blocksAfterFirst = icuBlocks;
-    EXPECT_EQ(icuBlocks, blocksAfterFirst);
+      blocksAfterFirst = icuMemory.live;
+    EXPECT_EQ(icuMemory.live, blocksAfterFirst);
   }
 }
