@@ -25,26 +25,26 @@
 /// Strings and the C++ standard library: UTF-8, `std::u16string_view`, hashing, ordering, printing.
 ///
 /// The shared library contains none of this: the header is compiled into the programs that include
-/// it, and builds on ZRString and ZRStringMutator alone. Besides the functions below it makes
+/// it and uses only the public members of ZRString and ZRStringMutator. Besides the functions below
+/// it specializes `std::hash`, so that strings can be keys of unordered containers, and, with
+/// C++20's
+/// `<format>`, `std::formatter`, which formats a string like a `std::string` of its UTF-8.
 ///
-/// - `std::hash` work, so that strings are keys of unordered containers;
-/// - strings formattable by C++20's `<format>`, as UTF-8, with the format of a `std::string`.
+/// **Ill-formed text.** In UTF-8, each maximal subpart of an ill-formed sequence becomes one
+/// U+FFFD, as the Unicode standard recommends and ICU does. In UTF-16, each unpaired surrogate
+/// becomes U+FFFD. Zero bytes and zero units are characters like any other.
 ///
-/// **Ill-formed text.** UTF-8 that is not well-formed becomes U+FFFD, one for each maximal subpart,
-/// as the Unicode standard recommends and ICU does; so does each unpaired surrogate on the way to
-/// UTF-8. Zero bytes and zero units are characters like any other.
+/// **Open buffers and the error state.** A string with an open writable buffer, or in ICU's error
+/// state, reads as empty.
 ///
-/// **Strings without a text.** While a writable buffer is open on a string, and in ICU's error
-/// state, a string reads as empty here as elsewhere.
+/// **Errors.** A text of 2^31 or more units or bytes throws `std::length_error`. If memory runs
+/// out, ICU's included, the functions throw `std::bad_alloc`.
 ///
-/// **Errors.** A text of 2^31 or more units or bytes is refused with `std::length_error`. When
-/// memory runs out, ICU's included, the functions throw `std::bad_alloc`.
-///
-/// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types,
-/// which a compiler may take to be in different places. ICU keeps the units as `char16_t`; that is
-/// also what a view reads. The pointers are converted behind a compiler barrier, as in ICU's own
-/// headers. A program that writes units through ZRStringMutator::GetBuffer() calls ReleaseBuffer(),
-/// which the compiler cannot see into, before it can take a view of them.
+/// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
+/// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
+/// as `char16_t`, and a view reads them as such. Pointers are converted behind a compiler barrier,
+/// as in ICU's own headers. A program that writes units through ZRStringMutator::GetBuffer() calls
+/// ReleaseBuffer(), which the compiler cannot see into, before it can take a view of them.
 
 /// @cond
 namespace ZRStringInteropDetail {
@@ -75,7 +75,7 @@ constexpr std::ptrdiff_t kBlock = 8;
 // Texts of up to this many units or bytes are converted on the stack.
 constexpr ZRLong kOnStack = 256;
 
-// Texts of so few units have no storage of their own, whose size would matter.
+// ICU stores texts of this length inside the body, whatever room they are given.
 constexpr ZRLong kShort = 24;
 
 inline bool WidenBlock(const char* bytes, unsigned short* units) {
@@ -102,14 +102,14 @@ inline bool NarrowBlock(const char16_t* units, char* bytes) {
   return true;
 }
 
-/// The code point that begins at `*next`, which is not ASCII; `*next` moves behind it, or behind
-/// the longest beginning of one that is there, for which it is U+FFFD.
+/// Reads the code point at `*next`, which is not ASCII, and moves `*next` behind it. If it is
+/// ill-formed, moves `*next` behind its maximal subpart and returns U+FFFD.
 inline std::uint32_t Decode(const char** next, const char* end) {
   const auto lead = static_cast<unsigned char>(*(*next)++);
   const int trails = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
   if (trails == 0)
     return kReplacement;
-  // The second byte decides whether the form is the shortest, no surrogate, and within Unicode.
+  // The range of the second byte excludes overlong forms, surrogates and what is above U+10FFFF.
   unsigned least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
   unsigned greatest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
   std::uint32_t codePoint = lead & (0x3Fu >> trails);
@@ -125,7 +125,7 @@ inline std::uint32_t Decode(const char** next, const char* end) {
   return codePoint;
 }
 
-/// Writes `text` as UTF-16, of which there is at most one unit a byte. @return the units' number
+/// Writes `text` as UTF-16, at most one unit per byte, and returns the number of units.
 inline ZRLong Utf16FromUtf8(std::string_view text, unsigned short* units) {
   unsigned short* to = units;
   const char* next = text.data();
@@ -138,7 +138,7 @@ inline ZRLong Utf16FromUtf8(std::string_view text, unsigned short* units) {
     for (; next != end && byte(0) < 0x80; ++next)
       put(byte(0));
     while (next != end && byte(0) >= 0x80) {
-      // Most of what has two or three bytes, short of what needs a closer look.
+      // Two and three bytes, unless the second one's range depends on the first.
       if (end - next >= 3 && (byte(1) & 0xC0) == 0x80) {
         const std::uint32_t lead = byte(0);
         if (lead >= 0xC2 && lead < 0xE0) {
@@ -166,9 +166,9 @@ inline ZRLong Utf16FromUtf8(std::string_view text, unsigned short* units) {
   return static_cast<ZRLong>(to - units);
 }
 
-/// Writes the units from `*next` up to `limit`, or one further where that would part a pair of
-/// surrogates, as UTF-8, of which there are at most three bytes a unit; `*next` moves behind them.
-/// @return the bytes' number
+/// Writes the units from `*next` up to `limit` as UTF-8, at most three bytes per unit, and returns
+/// the number of bytes. If `limit` splits a surrogate pair, the whole pair is written. Moves
+/// `*next` behind the last unit written.
 inline std::size_t Utf8FromUtf16(const char16_t** next, const char16_t* limit, const char16_t* end,
                                  char* bytes) {
   const char16_t* from = *next;
@@ -203,7 +203,7 @@ inline std::size_t Utf8FromUtf16(const char16_t** next, const char16_t* limit, c
   return static_cast<std::size_t>(to - bytes);
 }
 
-/// A string in storage of its size; the constructors leave room to grow.
+/// A string without room to grow, which the constructors would leave.
 inline ZRString Exact(const unsigned short* units, ZRLong length) {
   if (length <= kShort)
     return ZRString(units, length);
@@ -219,29 +219,30 @@ inline ZRString Exact(const unsigned short* units, ZRLong length) {
 }  // namespace ZRStringInteropDetail
 /// @endcond
 
-/// These functions can be called without naming the namespace. It keeps them apart from functions
-/// of the same names in other files of a program.
+/// An inline namespace: its functions are called without naming it, and cannot be mixed up by the
+/// linker with functions of the same names in other files of a program.
 inline namespace ZRStringInterop {
 
-/// The units of `string`, which stay its own: valid as long as what ZRString::GetBuffer() returns.
+/// A view of the units of `string`, not a copy: valid as long as the pointer that
+/// ZRString::GetBuffer() returns.
 inline std::u16string_view Utf16View(const ZRString& string) {
   return {ZRStringInteropDetail::UnitsAs<const char16_t>(string.GetBuffer()),
           static_cast<std::size_t>(string.GetLength())};
 }
 
-/// A string of a copy of `text`, which may be a literal like `u"..."`.
+/// A string with a copy of `text`, which may also be a `std::u16string` or a literal `u"..."`.
 inline ZRString FromUtf16(std::u16string_view text) {
   return ZRStringInteropDetail::Exact(
       ZRStringInteropDetail::UnitsAs<const unsigned short>(text.data()),
       ZRStringInteropDetail::Length(text.size()));
 }
 
-/// A string of the whole literal, zero units in it included: `u"..."_zr`.
+/// `u"..."_zr` is a string of the whole literal, embedded zero units included.
 inline ZRString operator""_zr(const char16_t* text, std::size_t size) {
   return FromUtf16({text, size});
 }
 
-/// A string of UTF-8 text.
+/// A string of text in UTF-8.
 inline ZRString FromUtf8(std::string_view text) {
   const ZRLong size = ZRStringInteropDetail::Length(text.size());
   if (size <= ZRStringInteropDetail::kOnStack) {
@@ -260,7 +261,7 @@ inline ZRString FromUtf8(std::string_view text) {
 }
 
 #ifdef __cpp_char8_t
-/// A string of UTF-8 text, which may be a literal like `u8"..."`.
+/// A string of text in UTF-8, which may also be a literal `u8"..."`.
 inline ZRString FromUtf8(std::u8string_view text) {
   return FromUtf8(std::string_view(reinterpret_cast<const char*>(text.data()), text.size()));
 }
@@ -293,25 +294,25 @@ inline std::string ToUtf8(std::u16string_view text) {
 inline std::string ToUtf8(const ZRString& string) { return ToUtf8(Utf16View(string)); }
 
 #ifdef _WIN32
-/// A string of a copy of `text`, as the functions of Windows give it.
+/// A string with a copy of `text`, which comes from a function of Windows.
 inline ZRString FromWide(std::wstring_view text) {
   return ZRStringInteropDetail::Exact(
       ZRStringInteropDetail::UnitsAs<const unsigned short>(text.data()),
       ZRStringInteropDetail::Length(text.size()));
 }
 
-/// The text of `string` as the functions of Windows take it.
+/// The text of `string` for a function of Windows.
 inline std::wstring ToWide(const ZRString& string) {
   const std::u16string_view units = Utf16View(string);
   return std::wstring(units.begin(), units.end());
 }
 #endif
 
-/// Orders strings and UTF-16 texts by code units, as ZRString::operator<() does: a key of
-/// `std::map<ZRString, Value, ZRStringLess>` is found by a `std::u16string_view` without making a
-/// string of it.
+/// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does. With it,
+/// `std::map<ZRString, Value, ZRStringLess>` can be searched for a `std::u16string_view` without
+/// creating a string.
 struct ZRStringLess {
-  using is_transparent = void;  ///< Says that the operands may be of different types.
+  using is_transparent = void;  ///< The operands may have different types.
 
   /// Whether `left` sorts before `right`; each is a ZRString or converts to `std::u16string_view`.
   template <typename Left, typename Right>
@@ -324,14 +325,13 @@ struct ZRStringLess {
   static std::u16string_view View(std::u16string_view text) { return text; }
 };
 
-/// Inserts the text of `string` as UTF-8, the way the stream inserts a `std::string`: width counts
-/// bytes.
+/// Inserts the text of `string` as UTF-8, like a `std::string`: the field width counts bytes.
 inline std::ostream& operator<<(std::ostream& stream, const ZRString& string) {
   return stream << ToUtf8(string);
 }
 
-/// Prints `string` for a person who looks for a fault: as UTF-8 in quotation marks, control
-/// characters and unpaired surrogates by their numbers. GoogleTest calls this by itself.
+/// Prints `string` for debugging: as UTF-8 in quotation marks, with control characters and unpaired
+/// surrogates as numbers. GoogleTest calls this function to print strings.
 inline void PrintTo(const ZRString& string, std::ostream* stream) {
   if (!string.GetBuffer()) {
     *stream << "(no text: its buffer is open, or ICU ran out of memory)";
@@ -358,7 +358,7 @@ inline void PrintTo(const ZRString& string, std::ostream* stream) {
   *stream << '"' << ToUtf8(shown) << '"';
 }
 
-/// Prints a ZRStringMutator in the same way.
+/// Prints a ZRStringMutator as above.
 inline void PrintTo(const ZRStringMutator& string, std::ostream* stream) {
   PrintTo(static_cast<const ZRString&>(string), stream);
 }
