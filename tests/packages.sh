@@ -15,7 +15,7 @@ check_files() {
   {
     sed -nE "s|^$2 ||p" "$top/tests/install/files.txt" |
       sed -e 's|/PREFIX/|/usr/|' -e "s|\<LIBDIR/|$libdir/|" -e 's|CONFIG|release|'
-    printf 'share/doc/%s/%s\n' "$1" changelog.Debian.gz "$1" copyright
+    printf "share/doc/$1/%s\n" changelog.Debian.gz changelog.gz copyright
   } | sed 's|^|./usr/|' | LC_ALL=C sort > "$work/expected"
   dpkg-deb --fsys-tarfile "$packages/$1.deb" | tar -t | grep -v '/$' | LC_ALL=C sort > "$work/found"
   diff -u "$work/expected" "$work/found" || die "the files in $1"
