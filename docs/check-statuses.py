@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks the tables that the pages derive from the comments of ZRStringHandles.h.
 
-    check-statuses.py [--update] ZRStringHandles.h PAGE...
+    check-statuses.py [--update]
 
 A page holds a table between the comments <!-- NAME --> and <!-- /NAME -->; the NAMEs are
 `statuses` (what each function tests, in order) and `minus-one` (which lengths may be -1).
@@ -11,7 +11,11 @@ import pathlib
 import re
 import sys
 
-sys.path.append(str(pathlib.Path(__file__).resolve().parent.parent / "tools"))
+DOCS = pathlib.Path(__file__).resolve().parent
+HEADER = DOCS.parent / "include/ZRString/ZRStringHandles.h"
+PAGES = [DOCS / "ranges.md", DOCS / "statuses.md"]
+
+sys.path.append(str(DOCS.parent / "tools"))
 import handle_header  # noqa: E402
 from handle_header import INDEX_OUTSIDE  # noqa: E402
 
@@ -76,17 +80,16 @@ def minus_one_table(all_functions):
 
 
 def main():
-    arguments = sys.argv[1:]
-    update = arguments[:1] == ["--update"]
-    header, *pages = arguments[update:]
-    all_functions = handle_header.functions(header)
+    update = sys.argv[1:] == ["--update"]
+    if sys.argv[1:] and not update:
+        sys.exit(__doc__)
+    all_functions = handle_header.functions(HEADER)
     tables = {
         "statuses": statuses_table(all_functions),
         "minus-one": minus_one_table(all_functions),
     }
-    for page in pages:
-        with open(page, encoding="utf-8") as file:
-            text = file.read()
+    for page in PAGES:
+        text = page.read_text(encoding="utf-8")
         for name in list(tables):
             begin, end = f"<!-- {name} -->\n", f"<!-- /{name} -->\n"
             before, found, rest = text.partition(begin)
@@ -99,12 +102,11 @@ def main():
             elif shown != table:
                 different = [line for line in table.splitlines() if line not in shown.splitlines()]
                 sys.exit(
-                    f"{page}: '{name}' differs from {header}; run this with --update. Expected, "
-                    "among others:\n" + "\n".join(different)
+                    f"{page}: '{name}' differs from {HEADER.name}; run docs/check-statuses.py "
+                    "--update. Expected, among others:\n" + "\n".join(different)
                 )
         if update:
-            with open(page, "w", encoding="utf-8") as file:
-                file.write(text)
+            page.write_text(text, encoding="utf-8")
     if tables:
         sys.exit("no page holds " + " nor ".join(tables))
 
