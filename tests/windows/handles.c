@@ -7,6 +7,7 @@ __declspec(dllimport) Handle __stdcall LoadLibraryExA(const char*, Handle, unsig
 __declspec(dllimport) Handle __stdcall GetModuleHandleA(const char*);
 __declspec(dllimport) Handle __stdcall GetProcAddress(Handle, const char*);
 __declspec(dllimport) int __stdcall FreeLibrary(Handle);
+__declspec(dllimport) unsigned long __stdcall GetLastError(void);
 __declspec(dllimport) void __stdcall ExitProcess(unsigned);
 int __stdcall GetFileVersionInfoA(const char*, unsigned long, unsigned long, void*);
 int __stdcall VerQueryValueA(const void*, const char*, void*, unsigned*);
@@ -31,6 +32,10 @@ static int Run(const char* path) {
   int functions = 0;
   ZRStringRef__* string = 0;
   ZRLong status, length = 0;
+  if (library == 0) {
+    printf("FAILED: error %lu when loading %s\n", GetLastError(), path);
+    return 1;
+  }
 #define X(name) functions += IsExported(library, #name, LINKED(name));
 #include "plain-names.h"
 #undef X
