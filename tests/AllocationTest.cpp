@@ -1,10 +1,12 @@
 // What every operation leaves behind when an allocation fails, and how few allocations there are.
 #include <ZRString/ZRStringInterfaces.h>
+#include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringStream.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <new>
 
 #include "Memory.h"
@@ -133,6 +135,34 @@ TEST_F(Allocation, FailureInOutputAndInCreatingAnArray) {
   ownMemory.Fail(0, true);
   EXPECT_EQ(ZRStringPtrArrayCreate(&array), 12);
   EXPECT_EQ(array, nullptr);
+}
+
+TEST_F(Allocation, FailureInAConversionIsThrown) {
+  for (const int length : {3, 100, 1000}) {
+    const std::u16string units(length, u'\u4E2D');
+    const ZRString string = FromUtf16(units);
+    const std::string bytes = ToUtf8(units);
+    const std::function<bool()> conversions[] = {
+        [&] { return FromUtf16(units) == string; },
+        [&] { return FromUtf8(bytes) == string; },
+        [&] { return ToUtf8(string) == bytes; },
+    };
+    for (const auto& right : conversions)
+      for (Memory* memory : {&ownMemory, &icuMemory})
+        for (int point = 0, failed = true; failed; ++point) {
+          const long before = ownMemory.live + icuMemory.live;
+          memory->Fail(point, true);
+          bool thrown = false;
+          try {
+            EXPECT_TRUE(right()) << length;
+          } catch (const std::bad_alloc&) {
+            thrown = true;
+          }
+          failed = memory->Recover();
+          EXPECT_EQ(thrown, failed) << length;
+          EXPECT_EQ(ownMemory.live + icuMemory.live, before) << length;
+        }
+  }
 }
 
 TEST_F(Allocation, ABodyIsOneAndACopyNone) {
