@@ -7,16 +7,14 @@ set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.sh"
 . "$top/tools/bare-debian.sh"
-
-# A block of code of the README: what follows a line that begins with ``` and $1.
-block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
+. "$top/tests/pages.sh"
 
 # The system in $1 has only what the README names when the README's programs are built and run.
 install_and_use() {
   local root=$1
   copy_project "$root/project"
-  block c > "$root/project/program.c"
-  block cpp > "$root/project/program.cpp"
+  readme_block c > "$root/project/program.c"
+  readme_block cpp > "$root/project/program.cpp"
   {
     echo 'set -ex; cd /project; sudo() { "$@"; }; apt-get() { command apt-get -y -q "$@"; }'
     echo 'apt-get update'
@@ -30,7 +28,7 @@ install_and_use() {
       [ -z "$(find /usr/local -name "*ZRString*")" ]'
   } > "$root/install.sh"
   in_debian "$root" bash /install.sh
-  for output in c.txt cpp.txt; do block text | diff - "$root/project/$output"; done
+  for output in c.txt cpp.txt; do readme_block text | diff - "$root/project/$output"; done
 }
 
 case $* in

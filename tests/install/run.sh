@@ -18,6 +18,7 @@ top=$(cd "$tests/../.." && pwd -P)
 failures=0
 
 . "$top/tools/steps.sh"
+. "$top/tests/pages.sh"
 fail() {
   printf 'FAILED: %s\n' "$*"
   failures=$((failures + 1))
@@ -123,10 +124,9 @@ grep -qxF "\"$(pkg-config --modversion zrstring)\"" "$work/version.txt" ||
   fail "ZRVersion.h and zrstring.pc: $(cat "$work/version.txt")"
 
 say "the programs of the README"
-block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
-block text >"$work/readme.txt"
-block cpp >"$work/readme.cpp"
-block c >"$work/readme.c"
+readme_block text >"$work/readme.txt"
+readme_block cpp >"$work/readme.cpp"
+readme_block c >"$work/readme.c"
 # shellcheck disable=SC2046,SC2086 # several options
 if "$CXX" $CXXFLAGS -std=c++17 "$work/readme.cpp" -o "$work/readme-cpp" \
   $(pkg-config --cflags --libs zrstring) &&

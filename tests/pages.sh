@@ -1,0 +1,10 @@
+# shellcheck shell=bash
+# Sourced by tests, with the project's folder in $top: what the README and the pages show.
+: "${top:?}"
+
+# readme_block KIND: the block of code of that KIND (cpp, c, text).
+readme_block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
+
+# What the first program of the pages, docs/snippets/road, prints.
+# shellcheck disable=SC2016 # the marks of a block of code, not commands
+road_output() { sed -n '/{#output}/,/{#rules}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d'; }
