@@ -17,7 +17,7 @@ PAGES = [DOCS / "ranges.md", DOCS / "statuses.md"]
 
 sys.path.append(str(DOCS.parent / "tools"))
 import handle_header  # noqa: E402
-from handle_header import INDEX_OUTSIDE  # noqa: E402
+from handle_header import FIRST_PARAMETER, INDEX_OUTSIDE  # noqa: E402
 
 CONDITIONS = {
     "null": "null",
@@ -41,7 +41,7 @@ MINUS_ONE = {
 
 def statuses_table(all_functions):
     positional = [status for each in all_functions for status in each.tests]
-    columns = [*range(4, max(set(positional) - {INDEX_OUTSIDE}) + 1), INDEX_OUTSIDE]
+    columns = [*range(FIRST_PARAMETER, max(set(positional) - {INDEX_OUTSIDE}) + 1), INDEX_OUTSIDE]
     rows = [
         "| Function | " + " | ".join(map(str, columns)) + " |",
         "|---" * (len(columns) + 1) + "|",
@@ -58,7 +58,7 @@ def statuses_table(all_functions):
                 cause = CONDITIONS[test.cause]
                 cells.append(f"{test.parameter} {cause}" if test.parameter else cause)
             else:
-                cells.append("–" if status - 4 < len(each.parameters) else "")
+                cells.append("–" if status - FIRST_PARAMETER < len(each.parameters) else "")
         rows.append(f"| {each.name}() | " + " | ".join(cells) + " |")
     return rows
 

@@ -5,6 +5,7 @@
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <ZRString/ZRStringStream.h>
+#include <ZRString/ZRVersion.h>
 
 #include <algorithm>
 #include <chrono>
@@ -43,7 +44,9 @@ constexpr const char* kHelp =
     "  --save LIST        save the result to the file LIST\n"
     "  --load LIST        start from a saved list\n"
     "  --find WORD        print the place of WORD in the list\n"
-    "  -h, --help         print this help\n";
+    "  -h, --help         print this help\n"
+    "\n"
+    "An example program of ZRString " ZR_VERSION_STRING ".\n";
 
 struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;

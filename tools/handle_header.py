@@ -7,7 +7,7 @@ do not agree with its declarations.
 import dataclasses
 import re
 
-INDEX_OUTSIDE = 12
+FIRST_PARAMETER, INDEX_OUTSIDE = 4, 12  # kZRStatusFirstParameter, kZRStatusIndexOutside
 
 
 @dataclasses.dataclass
@@ -41,7 +41,7 @@ def _tests(name, parameters, comment):
         if status == str(INDEX_OUTSIDE):
             tests[INDEX_OUTSIDE] = Test(None, cause, INDEX_OUTSIDE)
         elif status.isdecimal() and tested and tested[1] in names:
-            by_position = 4 + names.index(tested[1])
+            by_position = FIRST_PARAMETER + names.index(tested[1])
             if by_position != int(tested[3] or status) or tested[3] == status:
                 raise ValueError(f"{name}: the position of {tested[1]} gives {by_position}")
             tests[int(status)] = Test(tested[1], tested[2], by_position)
