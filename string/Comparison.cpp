@@ -12,85 +12,111 @@ std::uint32_t IcuOptions(ZRULong options) {
   return options == kZRCompareIgnoreCaseCodePointOrder ? U_COMPARE_CODE_POINT_ORDER : options;
 }
 
-/// The operand of a collated comparison: up to its zero unit, or `length` units of it, from a start
-/// of 0; otherwise a range of the text up to its zero unit.
-Units CollatedOperand(const unsigned short* src, ZRLong srcStart, ZRLong srcLength) {
-  return srcStart == 0 ? RawUnits(src, 0, srcLength) : TerminatedUnits(src, srcStart, srcLength);
+constexpr bool IsWhole(ZRLong start, ZRLong length) { return start == 0 && length == kZRToEnd; }
+
+// The collated comparisons are out of line: inlined, they would make every ICompare() call set up
+// a stack frame for them.
+
+[[gnu::noinline]] signed char CollateRanges(const icu::UnicodeString& text, ZRLong start,
+                                            ZRLong length, const icu::UnicodeString& srcText,
+                                            ZRLong srcStart, ZRLong srcLength) {
+  if (IsWhole(start, length) && IsWhole(srcStart, srcLength))
+    return Collate(text, srcText);
+  return Collate(UnitsOf(text, start, length), UnitsOf(srcText, srcStart, srcLength));
+}
+
+/// From a start of 0 the operand is read as by every other comparison, otherwise up to its zero
+/// unit at most.
+[[gnu::noinline]] signed char CollateRawRange(const icu::UnicodeString& text, ZRLong start,
+                                              ZRLong length, const unsigned short* src,
+                                              ZRLong srcStart, ZRLong srcLength) {
+  return Collate(UnitsOf(text, start, length), srcStart == 0
+                                                   ? RawUnits(src, 0, srcLength)
+                                                   : TerminatedUnits(src, srcStart, srcLength));
 }
 
 }  // namespace
 
 bool ZRString::operator==(const ZRString& other) const {
-  return body_ == other.body_ || body_->text == other.body_->text;
+  return body_ == other.body_ || TextOf(body_) == TextOf(other.body_);
 }
 
-bool ZRString::operator!=(const ZRString& other) const { return body_->text != other.body_->text; }
+bool ZRString::operator!=(const ZRString& other) const {
+  return TextOf(body_) != TextOf(other.body_);
+}
 
-bool ZRString::operator>(const ZRString& other) const { return body_->text > other.body_->text; }
+bool ZRString::operator>(const ZRString& other) const {
+  return TextOf(body_) > TextOf(other.body_);
+}
 
-bool ZRString::operator<(const ZRString& other) const { return body_->text < other.body_->text; }
+bool ZRString::operator<(const ZRString& other) const {
+  return TextOf(body_) < TextOf(other.body_);
+}
 
-bool ZRString::operator>=(const ZRString& other) const { return body_->text >= other.body_->text; }
+bool ZRString::operator>=(const ZRString& other) const {
+  return TextOf(body_) >= TextOf(other.body_);
+}
 
-bool ZRString::operator<=(const ZRString& other) const { return body_->text <= other.body_->text; }
+bool ZRString::operator<=(const ZRString& other) const {
+  return TextOf(body_) <= TextOf(other.body_);
+}
 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                               ZRLong srcLength) const {
-  return body_->text.compare(start, Resolved(length), src.body_->text, srcStart,
-                             Resolved(srcLength));
+  return TextOf(body_).compare(start, Resolved(length), TextOf(src.body_), srcStart,
+                               Resolved(srcLength));
 }
 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const unsigned short* src,
                               ZRLong srcStart, ZRLong srcLength) const {
   const RawOperand raw(src, srcStart, srcLength);
-  return body_->text.compare(start, Resolved(length), raw.units, raw.start, raw.length);
+  return TextOf(body_).compare(start, Resolved(length), raw.units, raw.start, raw.length);
 }
 
 signed char ZRString::CompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
                                      ZRLong srcEnd) const {
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
-  return body_->text.compareBetween(own.start, own.limit, src.body_->text, other.start,
-                                    other.limit);
+  return TextOf(body_).compareBetween(own.start, own.limit, TextOf(src.body_), other.start,
+                                      other.limit);
 }
 
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const ZRString& src,
                                             ZRLong srcStart, ZRLong srcLength) const {
-  return body_->text.compareCodePointOrder(start, Resolved(length), src.body_->text, srcStart,
-                                           Resolved(srcLength));
+  return TextOf(body_).compareCodePointOrder(start, Resolved(length), TextOf(src.body_), srcStart,
+                                             Resolved(srcLength));
 }
 
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
                                             ZRLong srcStart, ZRLong srcLength) const {
   const RawOperand raw(src, srcStart, srcLength);
-  return body_->text.compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
-                                           raw.length);
+  return TextOf(body_).compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
+                                             raw.length);
 }
 
 signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, const ZRString& src,
                                                    ZRLong srcStart, ZRLong srcEnd) const {
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
-  return body_->text.compareCodePointOrderBetween(own.start, own.limit, src.body_->text,
-                                                  other.start, other.limit);
+  return TextOf(body_).compareCodePointOrderBetween(own.start, own.limit, TextOf(src.body_),
+                                                    other.start, other.limit);
 }
 
 signed char ZRString::ICompare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                                ZRLong srcLength, ZRULong options) const {
   if (options == kZRCompareCollated)
-    return Collate(UnitsOf(body_->text, start, length),
-                   UnitsOf(src.body_->text, srcStart, srcLength));
-  return body_->text.caseCompare(start, Resolved(length), src.body_->text, srcStart,
-                                 Resolved(srcLength), IcuOptions(options));
+    return CollateRanges(TextOf(body_), start, length, TextOf(src.body_), srcStart, srcLength);
+  return TextOf(body_).caseCompare(start, Resolved(length), TextOf(src.body_), srcStart,
+                                   Resolved(srcLength), IcuOptions(options));
 }
 
 signed char ZRString::ICompare(ZRLong start, ZRLong length, const unsigned short* src,
                                ZRLong srcStart, ZRLong srcLength, ZRULong options) const {
   if (options == kZRCompareCollated)
-    return Collate(UnitsOf(body_->text, start, length), CollatedOperand(src, srcStart, srcLength));
+    return CollateRawRange(TextOf(body_), start, length, src, srcStart, srcLength);
   const RawOperand raw(src, srcStart, srcLength);
-  return body_->text.caseCompare(start, Resolved(length), raw.units, raw.start, raw.length,
-                                 IcuOptions(options));
+  return TextOf(body_).caseCompare(start, Resolved(length), raw.units, raw.start, raw.length,
+                                   IcuOptions(options));
 }
 
 signed char ZRString::ICompareBetween(ZRLong start, ZRLong end, const ZRString& src,
@@ -98,32 +124,33 @@ signed char ZRString::ICompareBetween(ZRLong start, ZRLong end, const ZRString& 
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
   if (options == kZRCompareCollated)
-    return Collate(UnitsOf(body_->text, own), UnitsOf(src.body_->text, other));
-  return body_->text.caseCompareBetween(own.start, own.limit, src.body_->text, other.start,
-                                        other.limit, IcuOptions(options));
+    return CollateRanges(TextOf(body_), own.start, own.Length(), TextOf(src.body_), other.start,
+                         other.Length());
+  return TextOf(body_).caseCompareBetween(own.start, own.limit, TextOf(src.body_), other.start,
+                                          other.limit, IcuOptions(options));
 }
 
 unsigned char ZRString::StartsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const {
   // ICU 72's startsWith(), unlike its endsWith(), does not pin the operand's range.
-  const icu::UnicodeString& srcText = src.body_->text;
+  const icu::UnicodeString& srcText = TextOf(src.body_);
   const std::int32_t first = std::clamp<std::int32_t>(srcStart, 0, srcText.length());
   const std::int32_t count =
       std::clamp<std::int32_t>(Resolved(srcLength), 0, srcText.length() - first);
-  return body_->text.startsWith(srcText, first, count);
+  return TextOf(body_).startsWith(srcText, first, count);
 }
 
 unsigned char ZRString::StartsWith(const unsigned short* src, ZRLong srcStart,
                                    ZRLong srcLength) const {
   const Units raw = RawUnits(src, srcStart, srcLength);
-  return body_->text.startsWith(raw.first, 0, raw.count);
+  return TextOf(body_).startsWith(raw.first, 0, raw.count);
 }
 
 unsigned char ZRString::EndsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const {
-  return body_->text.endsWith(src.body_->text, srcStart, Resolved(srcLength));
+  return TextOf(body_).endsWith(TextOf(src.body_), srcStart, Resolved(srcLength));
 }
 
 unsigned char ZRString::EndsWith(const unsigned short* src, ZRLong srcStart,
                                  ZRLong srcLength) const {
   const Units raw = RawUnits(src, srcStart, srcLength);
-  return body_->text.endsWith(raw.first, 0, raw.count);
+  return TextOf(body_).endsWith(raw.first, 0, raw.count);
 }

@@ -45,11 +45,16 @@ const icu::Collator* ProcessCollator() {
 
 }  // namespace
 
+signed char Collate(const icu::UnicodeString& first, const icu::UnicodeString& second) {
+  const icu::Collator* const collator = ProcessCollator();
+  UErrorCode status = U_ZERO_ERROR;
+  return static_cast<signed char>(collator ? collator->compare(first, second, status) : UCOL_EQUAL);
+}
+
 signed char Collate(Units first, Units second) {
   const icu::Collator* const collator = ProcessCollator();
-  if (!collator)
-    return 0;
   UErrorCode status = U_ZERO_ERROR;
   return static_cast<signed char>(
-      collator->compare(first.first, first.count, second.first, second.count, status));
+      collator ? collator->compare(first.first, first.count, second.first, second.count, status)
+               : UCOL_EQUAL);
 }

@@ -18,6 +18,9 @@ constexpr std::int32_t Resolved(ZRLong length) { return length == kZRToEnd ? INT
 struct Range {
   std::int32_t start;  // not negative
   std::int32_t limit;  // not negative
+
+  /// 0 when the limit lies before the start.
+  std::int32_t Length() const { return std::max(limit - start, 0); }
 };
 
 /// The units `start` through `end`, both inclusive.
@@ -36,10 +39,6 @@ inline Units UnitsOf(const icu::UnicodeString& text, ZRLong start, ZRLong length
   const std::int32_t first = std::clamp<std::int32_t>(start, 0, text.length());
   return {text.getBuffer() + first,
           std::clamp<std::int32_t>(Resolved(length), 0, text.length() - first)};
-}
-
-inline Units UnitsOf(const icu::UnicodeString& text, Range range) {
-  return UnitsOf(text, range.start, std::max<std::int32_t>(range.limit - range.start, 0));
 }
 
 /// The units of a range of a raw text, cut to that text, which ends before its first zero unit.

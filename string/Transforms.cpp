@@ -36,7 +36,9 @@ icu::UnicodeString Operand(const icu::UnicodeString& edited, const unsigned shor
   const Units units = TerminatedUnits(text, start, length);
   const char16_t* const own = edited.getBuffer();
   const std::less<const char16_t*> before;
-  if (!before(units.first, own + edited.getCapacity()) || !before(own, units.first + units.count))
+  const bool isOwn = own && before(units.first, own + edited.getCapacity()) &&
+                     before(own, units.first + units.count);
+  if (!isOwn)
     return icu::UnicodeString(false, units.first, units.count);
   icu::UnicodeString copy(units.first, units.count);
   if (copy.isBogus())
@@ -73,8 +75,8 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
     return ReplaceAllByItself(*this, start, length, oldText, oldStart, oldLength, newText, newStart,
                               newLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength,
-             newText.body_->text, newStart, newLength);
+  ReplaceAll(TextOf(body_), start, length, TextOf(oldText.body_), oldStart, oldLength,
+             TextOf(newText.body_), newStart, newLength);
   return *this;
 }
 
@@ -86,9 +88,9 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
     const ZRString before(*this);
     return FindAndReplace(start, length, oldText, oldStart, oldLength, before, newStart, newLength);
   }
-  const icu::UnicodeString oldOperand = Operand(body_->text, oldText, oldStart, oldLength);
+  const icu::UnicodeString oldOperand = Operand(TextOf(body_), oldText, oldStart, oldLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldOperand, 0, kZRToEnd, newText.body_->text, newStart,
+  ReplaceAll(TextOf(body_), start, length, oldOperand, 0, kZRToEnd, TextOf(newText.body_), newStart,
              newLength);
   return *this;
 }
@@ -101,10 +103,10 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
     const ZRString before(*this);
     return FindAndReplace(start, length, before, oldStart, oldLength, newText, newStart, newLength);
   }
-  const icu::UnicodeString newOperand = Operand(body_->text, newText, newStart, newLength);
+  const icu::UnicodeString newOperand = Operand(TextOf(body_), newText, newStart, newLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldText.body_->text, oldStart, oldLength, newOperand, 0,
-             kZRToEnd);
+  ReplaceAll(TextOf(body_), start, length, TextOf(oldText.body_), oldStart, oldLength, newOperand,
+             0, kZRToEnd);
   return *this;
 }
 
@@ -112,10 +114,10 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const unsigned short* oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const unsigned short* newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  const icu::UnicodeString oldOperand = Operand(body_->text, oldText, oldStart, oldLength);
-  const icu::UnicodeString newOperand = Operand(body_->text, newText, newStart, newLength);
+  const icu::UnicodeString oldOperand = Operand(TextOf(body_), oldText, oldStart, oldLength);
+  const icu::UnicodeString newOperand = Operand(TextOf(body_), newText, newStart, newLength);
   CopyOnWrite();
-  ReplaceAll(body_->text, start, length, oldOperand, 0, kZRToEnd, newOperand, 0, kZRToEnd);
+  ReplaceAll(TextOf(body_), start, length, oldOperand, 0, kZRToEnd, newOperand, 0, kZRToEnd);
   return *this;
 }
 
@@ -137,46 +139,46 @@ unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
     body_->GiveUpShare();
     body_ = body;
   } else {
-    body_->text.swap(normalized);
+    TextOf(body_).swap(normalized);
   }
   return 1;
 }
 
 unsigned char ZRStringMutator::PadLeading(ZRLong targetLength, unsigned short padUnit) {
   CopyOnWrite();
-  return body_->text.padLeading(targetLength, padUnit);
+  return TextOf(body_).padLeading(targetLength, padUnit);
 }
 
 unsigned char ZRStringMutator::PadTrailing(ZRLong targetLength, unsigned short padUnit) {
   CopyOnWrite();
-  return body_->text.padTrailing(targetLength, padUnit);
+  return TextOf(body_).padTrailing(targetLength, padUnit);
 }
 
 unsigned char ZRStringMutator::Truncate(ZRLong targetLength) {
   CopyOnWrite();
-  return body_->text.truncate(targetLength);
+  return TextOf(body_).truncate(targetLength);
 }
 
 ZRStringMutator& ZRStringMutator::Trim() {
   CopyOnWrite();
-  body_->text.trim();
+  TextOf(body_).trim();
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Reverse(ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.reverse(start, Resolved(length));
+  TextOf(body_).reverse(start, Resolved(length));
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::ToUpper() {
   CopyOnWrite();
-  body_->text.toUpper();
+  TextOf(body_).toUpper();
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::ToLower() {
   CopyOnWrite();
-  body_->text.toLower();
+  TextOf(body_).toLower();
   return *this;
 }

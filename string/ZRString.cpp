@@ -23,11 +23,11 @@ ZRLong TerminatedLength(const Character* text) {
   return static_cast<ZRLong>(length);
 }
 
-/// Replaces the caller's share of `body` by a private copy. Out of line because most edits find the
-/// body unshared.
-[[gnu::noinline, gnu::cold]] ZRStringImplementation* PrivateCopyOf(ZRStringImplementation* body) {
-  auto* const copy = new ZRStringImplementation(body->text);
-  body->GiveUpShare();
+/// A private copy of a shared body, for the caller's share of it. Out of line because most edits
+/// find their body unshared.
+[[gnu::noinline, gnu::cold]] ZRStringImplementation* PrivateCopyOf(ZRStringHolderCount* shared) {
+  auto* const copy = new ZRStringImplementation(TextOf(shared));
+  shared->GiveUpShare();
   return copy;
 }
 
@@ -58,8 +58,6 @@ ZRString::ZRString(const UniStr255& record) {
   CreateNewImplementation(record.units, 0, record.length);
 }
 
-ZRString::ZRString(const ZRString& source) { CreateNewImplementation(source, 0, kZRToEnd); }
-
 ZRString::ZRString(const ZRString& source, ZRLong length) {
   CreateNewImplementation(source, 0, length);
 }
@@ -71,8 +69,6 @@ ZRString::ZRString(const ZRString& source, ZRLong start, ZRLong length) {
 ZRString::ZRString(ZRStringRef__* handle) { CreateNewImplementation(handle); }
 
 ZRString::ZRString(ZRMutableStringRef__* handle) { CreateNewImplementation(handle); }
-
-ZRString::~ZRString() { body_->GiveUpShare(); }
 
 void ZRString::CreateNewImplementation() { body_ = new ZRStringImplementation(); }
 
@@ -95,9 +91,9 @@ void ZRString::CreateNewImplementation(const ZRString& source, ZRLong start, ZRL
   if (start == 0 && (length == kZRToEnd || length == source.GetLength()))
     body_ = source.body_->TakeShare();
   else if (length == kZRToEnd)
-    body_ = new ZRStringImplementation(source.body_->text, start);
+    body_ = new ZRStringImplementation(TextOf(source.body_), start);
   else
-    body_ = new ZRStringImplementation(source.body_->text, start, length);
+    body_ = new ZRStringImplementation(TextOf(source.body_), start, length);
 }
 
 void ZRString::CreateNewImplementation(ZRStringRef__* handle) {
@@ -112,13 +108,7 @@ void ZRString::CreateNewImplementation(ZRMutableStringRef__* handle) {
   body_ = StringOf(handle).body_->TakeShare();
 }
 
-const ZRString& ZRString::operator=(const ZRString& other) {
-  if (body_ != other.body_) {
-    body_->GiveUpShare();
-    body_ = other.body_->TakeShare();
-  }
-  return *this;
-}
+void ZRString::DestroyBody() noexcept { delete static_cast<ZRStringImplementation*>(body_); }
 
 void ZRString::CopyOnWrite() {
   if (body_->IsShared())
@@ -127,61 +117,61 @@ void ZRString::CopyOnWrite() {
 
 ZRLong ZRString::Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
                       ZRLong start, ZRLong length) const {
-  return body_->text.indexOf(pattern.body_->text, patternStart, Resolved(patternLength), start,
-                             Resolved(length));
+  return TextOf(body_).indexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength), start,
+                               Resolved(length));
 }
 
 ZRLong ZRString::Find(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
                       ZRLong start, ZRLong length) const {
-  return body_->text.indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
-                             Resolved(length));
+  return TextOf(body_).indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+                               Resolved(length));
 }
 
 ZRLong ZRString::RFind(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
                        ZRLong start, ZRLong length) const {
-  return body_->text.lastIndexOf(pattern.body_->text, patternStart, Resolved(patternLength), start,
-                                 Resolved(length));
+  return TextOf(body_).lastIndexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength),
+                                   start, Resolved(length));
 }
 
 ZRLong ZRString::RFind(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
                        ZRLong start, ZRLong length) const {
-  return body_->text.lastIndexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
-                                 Resolved(length));
+  return TextOf(body_).lastIndexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+                                   Resolved(length));
 }
 
 ZRLong ZRString::LastIndexOf(unsigned short unit) const {
-  return body_->text.lastIndexOf(static_cast<char16_t>(unit));
+  return TextOf(body_).lastIndexOf(static_cast<char16_t>(unit));
 }
 
-unsigned short ZRString::CharAt(ZRLong index) const { return body_->text.charAt(index); }
+unsigned short ZRString::CharAt(ZRLong index) const { return TextOf(body_).charAt(index); }
 
-unsigned short ZRString::operator[](ZRLong index) const { return body_->text.charAt(index); }
+unsigned short ZRString::operator[](ZRLong index) const { return TextOf(body_).charAt(index); }
 
-ZRLong ZRString::GetLength() const { return body_->text.length(); }
+ZRLong ZRString::GetLength() const { return TextOf(body_).length(); }
 
-unsigned char ZRString::IsEmpty() const { return body_->text.isEmpty(); }
+unsigned char ZRString::IsEmpty() const { return TextOf(body_).isEmpty(); }
 
-const unsigned short* ZRString::GetBuffer() const { return FromIcu(body_->text.getBuffer()); }
+const unsigned short* ZRString::GetBuffer() const { return FromIcu(TextOf(body_).getBuffer()); }
 
 void ZRString::Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const {
   // As unsigned numbers, a negative start lies past the end and a length of -1 does too.
-  const std::uint32_t whole = body_->text.length();
+  const std::uint32_t whole = TextOf(body_).length();
   const std::uint32_t first = start;
   if (first > whole || length < kZRToEnd)
     return;
   const std::uint32_t count = std::min<std::uint32_t>(length, whole - first);
   (dst + dstStart)[count] = 0;
-  body_->text.extract(start, count, ToIcu(dst), dstStart);
+  TextOf(body_).extract(start, count, ToIcu(dst), dstStart);
 }
 
 void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
                               ZRLong dstStart) const {
-  const ZRLong whole = body_->text.length();
+  const ZRLong whole = TextOf(body_).length();
   const ZRLong limit = end < whole ? end + 1 : whole;
   if (start < 0 || start > limit)
     return;
   (dst + dstStart)[limit - start] = 0;
-  body_->text.extractBetween(start, limit, ToIcu(dst), dstStart);
+  TextOf(body_).extractBetween(start, limit, ToIcu(dst), dstStart);
 }
 
 ZRStringRef__* ZRString::GetZRStringRef() const { return HandleOf(this); }

@@ -41,87 +41,71 @@ ZRStringMutator::ZRStringMutator(const unsigned short* text, ZRLong start, ZRLon
 ZRStringMutator::ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length)
     : ZRString(source, start, length) {}
 
-ZRStringMutator::ZRStringMutator(const ZRString& source) : ZRString(source) {}
-
-ZRStringMutator::ZRStringMutator(const ZRStringMutator& source) : ZRString(source) {}
-
 ZRStringMutator::ZRStringMutator(ZRStringRef__* handle) : ZRString(handle) {}
 
 ZRStringMutator::ZRStringMutator(ZRMutableStringRef__* handle) : ZRString(handle) {}
 
-ZRStringMutator::~ZRStringMutator() = default;
-
-ZRStringMutator& ZRStringMutator::operator=(const ZRStringMutator& other) {
-  ZRString::operator=(other);
-  return *this;
-}
-
-ZRStringMutator& ZRStringMutator::operator=(const ZRString& other) {
-  ZRString::operator=(other);
-  return *this;
-}
-
 ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.setTo(source.body_->text, start, Resolved(length));
+  TextOf(body_).setTo(TextOf(source.body_), start, Resolved(length));
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::SetTo(const unsigned short* text, ZRLong length) {
   CopyOnWrite();
-  body_->text.setTo(ToIcu(text), length);
+  TextOf(body_).setTo(ToIcu(text), length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::SetCharAt(ZRLong offset, unsigned short unit) {
   CopyOnWrite();
-  body_->text.setCharAt(offset, unit);
+  TextOf(body_).setCharAt(offset, unit);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::operator+=(unsigned short unit) {
   CopyOnWrite();
-  body_->text += static_cast<char16_t>(unit);
+  TextOf(body_) += static_cast<char16_t>(unit);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::operator+=(const ZRString& other) {
   CopyOnWrite();
-  body_->text += other.body_->text;
+  TextOf(body_) += TextOf(other.body_);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Append(const ZRString& source, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.append(source.body_->text, start, Resolved(length));
+  TextOf(body_).append(TextOf(source.body_), start, Resolved(length));
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong start, ZRLong length) {
   CopyOnWrite();
-  body_->text.append(ToIcu(text), start, length);
+  TextOf(body_).append(ToIcu(text), start, length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
-  body_->text.insert(position, source.body_->text, start, Resolved(length));
+  TextOf(body_).insert(position, TextOf(source.body_), start, Resolved(length));
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* text, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
-  body_->text.insert(position, ToIcu(text), start, length);
+  TextOf(body_).insert(position, ToIcu(text), start, length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length, const ZRString& source,
                                           ZRLong srcStart, ZRLong srcLength) {
   CopyOnWrite();
-  body_->text.replace(position, Resolved(length), source.body_->text, srcStart,
-                      Resolved(srcLength));
+  TextOf(body_).replace(position, Resolved(length), TextOf(source.body_), srcStart,
+                        Resolved(srcLength));
   return *this;
 }
 
@@ -129,7 +113,7 @@ ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length,
                                           const unsigned short* text, ZRLong srcStart,
                                           ZRLong srcLength) {
   CopyOnWrite();
-  body_->text.replace(position, Resolved(length), ToIcu(text), srcStart, srcLength);
+  TextOf(body_).replace(position, Resolved(length), ToIcu(text), srcStart, srcLength);
   return *this;
 }
 
@@ -138,7 +122,8 @@ ZRStringMutator& ZRStringMutator::ReplaceBetween(ZRLong start, ZRLong end, const
   CopyOnWrite();
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
-  body_->text.replaceBetween(own.start, own.limit, source.body_->text, other.start, other.limit);
+  TextOf(body_).replaceBetween(own.start, own.limit, TextOf(source.body_), other.start,
+                               other.limit);
   return *this;
 }
 
@@ -146,14 +131,14 @@ ZRStringMutator& ZRStringMutator::Remove(ZRLong start, ZRLong length) {
   CopyOnWrite();
   // Not the greatest length: from a start of 0 that is another operation of ICU's, which ends its
   // error state.
-  body_->text.remove(start, length == kZRToEnd ? body_->text.length() : length);
+  TextOf(body_).remove(start, length == kZRToEnd ? TextOf(body_).length() : length);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::RemoveBetween(ZRLong start, ZRLong end) {
   CopyOnWrite();
   const Range own = Between(start, end);
-  body_->text.removeBetween(own.start, own.limit);
+  TextOf(body_).removeBetween(own.start, own.limit);
   return *this;
 }
 
@@ -171,13 +156,13 @@ void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, unsigned short* d
 
 void ZRStringMutator::Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const {
   target.CopyOnWrite();
-  body_->text.extract(start, Resolved(length), target.body_->text);
+  TextOf(body_).extract(start, Resolved(length), TextOf(target.body_));
 }
 
 void ZRStringMutator::ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& target) const {
   target.CopyOnWrite();
   const Range own = Between(start, end);
-  body_->text.extractBetween(own.start, own.limit, target.body_->text);
+  TextOf(body_).extractBetween(own.start, own.limit, TextOf(target.body_));
 }
 
 ZRStringMutator ZRStringMutator::operator+(const ZRString& other) const {
@@ -200,19 +185,19 @@ ZRStringMutator operator+(unsigned short unit, const ZRString& right) {
 
 unsigned short* ZRStringMutator::GetBuffer(ZRLong minCapacity) {
   CopyOnWrite();
-  return FromIcu(body_->text.getBuffer(minCapacity));
+  return FromIcu(TextOf(body_).getBuffer(minCapacity));
 }
 
-void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { body_->text.releaseBuffer(newLength); }
+void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { TextOf(body_).releaseBuffer(newLength); }
 
 const unsigned short* ZRStringMutator::GetTerminatedBuffer() {
-  icu::UnicodeString& text = body_->text;
+  icu::UnicodeString& text = TextOf(body_);
   if (text.length() == text.getCapacity() && !MakeRoomForOneMore(text))
     return nullptr;
   return FromIcu(text.getTerminatedBuffer());
 }
 
-ZRLong ZRStringMutator::GetCapacity() const { return body_->text.getCapacity(); }
+ZRLong ZRStringMutator::GetCapacity() const { return TextOf(body_).getCapacity(); }
 
 ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() { return HandleOf(this); }
 

@@ -5,8 +5,43 @@
 
 struct ZRStringRef__;
 struct ZRMutableStringRef__;
-struct ZRStringImplementation;
 class ZRStringMutator;
+
+/// @def ZR_INLINE
+/// Marks members that programs compile inline, so that copying a string takes no call. The library
+/// compiles them as functions, in string/Copying.cpp, and exports them.
+#if defined(ZRString_EXPORTS)
+#define ZR_INLINE
+#else
+#define ZR_INLINE inline
+#endif
+
+/// The number of strings that hold a body: the first part of every body, and all that a program
+/// sees of it, so that it can copy strings without a call.
+///
+/// The number is a plain integer, 1 for a new body. The two operations are all that change it.
+struct ZRStringHolderCount {
+ public:
+  bool IsShared() const noexcept { return count_ > 1; }
+
+  /// Adds a holder. Returns the body.
+  ZRStringHolderCount* TakeShare() noexcept {
+    ++count_;
+    return this;
+  }
+
+  /// Takes a holder away. Returns false, with the number as it is, if it is the last one: the body
+  /// is then to be destroyed.
+  bool GiveUpShare() noexcept {
+    if (count_ < 2)
+      return false;
+    --count_;
+    return true;
+  }
+
+ private:
+  ZRLong count_ = 1;
+};
 
 /// An immutable Unicode string of UTF-16 code units.
 ///
@@ -62,7 +97,7 @@ class ZR_API ZRString {
   ZRString(const UniStr255& record);
 
   /// A copy that shares the body of `source`.
-  ZRString(const ZRString& source);
+  ZR_INLINE ZRString(const ZRString& source) noexcept;
 
   /// The first `length` units of `source`; -1: all. The one number is a length, not a start.
   /// Shares the body of `source` when `length` is -1 or exactly its length.
@@ -79,7 +114,7 @@ class ZR_API ZRString {
   ZRString(ZRMutableStringRef__* handle);
 
   /// Gives up the share of the body, and frees the body with its last share.
-  virtual ~ZRString();
+  ZR_INLINE virtual ~ZRString();
 
   /// Equal texts. Strings that share a body are equal without a look at the text.
   bool operator==(const ZRString& other) const;
@@ -204,7 +239,7 @@ class ZR_API ZRString {
 
  protected:
   /// Gives up this string's body and shares that of `other`; nothing when they share it already.
-  const ZRString& operator=(const ZRString& other);
+  ZR_INLINE const ZRString& operator=(const ZRString& other) noexcept;
 
   /// Makes this string the only holder of its body: a shared body is copied. When the copy cannot
   /// be made, `std::bad_alloc` leaves the string as it was.
@@ -222,8 +257,12 @@ class ZR_API ZRString {
   void CreateNewImplementation(ZRStringRef__* handle);
   void CreateNewImplementation(ZRMutableStringRef__* handle);
 
-  /// Never null after construction; this object holds exactly one share of it.
-  ZRStringImplementation* body_;
+  /// Destroys the body, of which this string is the last holder.
+  void DestroyBody() noexcept;
+
+  /// Never null after construction; this object holds exactly one share of it. The text follows the
+  /// count, inside the library.
+  ZRStringHolderCount* body_;
 };
 
 /// The string that a handle stands for. `handle` must not be null.
@@ -233,5 +272,25 @@ ZR_API const ZRString& ZR_CALL GetZRStringFromRef(ZRStringRef__* handle);
 /// @return 5 `result` is null (tested first); 4 `handle` is null; otherwise 0. `*result` is
 ///         written only with 0.
 ZR_API ZRLong ZR_CALL ZRStringRefToZRString(ZRStringRef__* handle, ZRString** result);
+
+#if !defined(ZRString_EXPORTS) || defined(ZR_COMPILE_INLINE_MEMBERS)
+
+ZR_INLINE ZRString::ZRString(const ZRString& source) noexcept : body_(source.body_->TakeShare()) {}
+
+ZR_INLINE ZRString::~ZRString() {
+  if (!body_->GiveUpShare())
+    DestroyBody();
+}
+
+ZR_INLINE const ZRString& ZRString::operator=(const ZRString& other) noexcept {
+  if (body_ != other.body_) {
+    if (!body_->GiveUpShare())
+      DestroyBody();
+    body_ = other.body_->TakeShare();
+  }
+  return *this;
+}
+
+#endif
 
 #endif

@@ -52,18 +52,20 @@ class ZR_API ZRStringMutator : public ZRString {
   /// A range of `source`; shares its body exactly when ZRString would.
   ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length);
 
-  ZRStringMutator(const ZRString& source);         ///< Shares the body of `source`.
-  ZRStringMutator(const ZRStringMutator& source);  ///< Shares the body of `source`.
+  ZR_INLINE ZRStringMutator(const ZRString& source) noexcept;         ///< Shares its body.
+  ZR_INLINE ZRStringMutator(const ZRStringMutator& source) noexcept;  ///< Shares its body.
 
   /// Shares the body of the string that `handle` stands for; an empty string for a null handle.
   ZRStringMutator(ZRStringRef__* handle);
   ZRStringMutator(ZRMutableStringRef__* handle);  ///< The same.
 
-  ~ZRStringMutator() override;
+  ZR_INLINE ~ZRStringMutator() override;
 
   /// Gives up this string's body and shares that of `other`; copies no units.
-  ZRStringMutator& operator=(const ZRStringMutator& other);
-  ZRStringMutator& operator=(const ZRString& other);  ///< The same.
+  ZR_INLINE ZRStringMutator& operator=(const ZRStringMutator& other) noexcept;
+
+  /// Gives up this string's body and shares that of `other`; copies no units.
+  ZR_INLINE ZRStringMutator& operator=(const ZRString& other) noexcept;
 
   /// Makes a range of `source` the whole text.
   ZRStringMutator& SetTo(const ZRString& source, ZRLong start, ZRLong length);
@@ -205,5 +207,26 @@ ZR_API ZRStringMutator ZR_CALL operator+(unsigned short unit, const ZRString& ri
 
 /// The mutable string that a handle stands for. `handle` must not be null.
 ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
+
+#if !defined(ZRString_EXPORTS) || defined(ZR_COMPILE_INLINE_MEMBERS)
+
+ZR_INLINE ZRStringMutator::ZRStringMutator(const ZRString& source) noexcept : ZRString(source) {}
+
+ZR_INLINE ZRStringMutator::ZRStringMutator(const ZRStringMutator& source) noexcept
+    : ZRString(source) {}
+
+ZR_INLINE ZRStringMutator::~ZRStringMutator() = default;
+
+ZR_INLINE ZRStringMutator& ZRStringMutator::operator=(const ZRStringMutator& other) noexcept {
+  ZRString::operator=(other);
+  return *this;
+}
+
+ZR_INLINE ZRStringMutator& ZRStringMutator::operator=(const ZRString& other) noexcept {
+  ZRString::operator=(other);
+  return *this;
+}
+
+#endif
 
 #endif
