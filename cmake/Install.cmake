@@ -37,9 +37,9 @@ configure_file(cmake/zrstring.pc.in zrstring.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/zrstring.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
-# What shows strings in the system's debugger. GDB loads its script by itself if it finds it below its
-# auto-load directory (share/gdb/auto-load, with the prefix /usr) under the full path of the library.
-# The prefix in that path is the one given when installing, which may differ from the one configured.
+# What shows strings in the system's debugger. GDB loads its script by itself if it lies below GDB's
+# auto-load directory (share/gdb/auto-load, with the prefix /usr) under the library's full path. The
+# prefix in that path is the one given when installing, which may differ from the one configured.
 if(WIN32)
   install(FILES tools/debugger/ZRString.natvis
     DESTINATION ${CMAKE_INSTALL_DATADIR}/zrstring COMPONENT Development)

@@ -20,7 +20,8 @@ if [ "$(head -c 2 "$1")" = MZ ]; then
   sed -i '/^typeinfo name for /d' "$work/promised-cpp"
   long=long
 else
-  nm -D --defined-only "$1" | awk '$2 != "A" { print $3 }' | sed 's/@.*//' | sort -u > "$work/exported"
+  nm -D --defined-only "$1" | awk '$2 != "A" { sub(/@.*/, "", $3); print $3 }' |
+    sort -u > "$work/exported"
   if nm -D "$1" | grep ' u ' >&2; then
     echo "unique symbols keep the library in the process after dlclose" >&2
     exit 1

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# On a bare Debian 12 and a bare Debian 13, or the one that is named: makes the Debian packages, shows
-# them to lintian, and installs and uses them where nothing else is.
-# Takes minutes and must be run as root.
+# On a bare Debian 12 and a bare Debian 13, or the one that is named: makes the Debian packages, has
+# lintian check them, and installs and uses them where nothing else is. Takes minutes and must be run
+# as root.
 # usage: tests/packages.sh [bookworm|trixie]
 # shellcheck disable=SC2016 # what the shells and dpkg in there expand
 set -euo pipefail
@@ -10,7 +10,8 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/bare-debian.sh"
 . "$top/tests/pages.sh"
 
-# check_files PACKAGE COMPONENT: the files in the package with those of COMPONENT in install/files.txt.
+# check_files PACKAGE COMPONENT: compares the files in PACKAGE with those of COMPONENT in
+# install/files.txt.
 check_files() {
   local libdir=lib/$multiarch
   {
@@ -49,7 +50,8 @@ absent_in() {
     die "$2 is installed, so this shows nothing"
 }
 
-# In ROOT, where the project and its build dependencies are; each package as $packages/NAME.deb, too.
+# make_packages ROOT: in there, where all that building takes is installed. Each package is then there
+# as $packages/NAME.deb, too.
 make_packages() {
   local package
   copy_project "$1/project"
@@ -79,7 +81,8 @@ for codename in "$@"; do
   dpkg-deb -f "$packages/libzrstring1.deb" Depends | grep -qE 'libicu[0-9]+ .*libstdc\+\+6' ||
     die "libzrstring1 does not depend on ICU and the C++ library"
   say "$codename: lintian"
-  in_debian "$maker" sh -c 'lintian --allow-root --fail-on error,warning /project/build/packages/*.changes'
+  in_debian "$maker" sh -c \
+    'lintian --allow-root --fail-on error,warning /project/build/packages/*.changes'
 
   say "$codename: building a program with the packages and a C compiler"
   logged "$logs/user.log" install_in "$user" libzrstring1 libzrstring-dev gcc libc6-dev pkg-config

@@ -7,7 +7,7 @@ set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.sh"
 
-# fetch_icu ARCHITECTURE FOLDER: unpacks Debian's ICU for that architecture, of this system's release.
+# fetch_icu ARCHITECTURE FOLDER: unpacks ICU as this release of Debian has it for ARCHITECTURE.
 fetch_icu() {
   local fetched=$2/fetched codename icu
   # shellcheck source=/dev/null
@@ -51,9 +51,8 @@ case $* in
   aarch64 | s390x) ;;
   *) die "the processors are aarch64 and s390x" ;;
 esac
-"$top/tools/install-packages.sh" bzip2 cmake debian-archive-keyring dpkg-dev googletest ninja-build \
-  python3 qemu-user-static unicode-data g++-aarch64-linux-gnu \
-  g++-s390x-linux-gnu
+"$top/tools/install-packages.sh" bzip2 cmake debian-archive-keyring g++-aarch64-linux-gnu \
+  g++-s390x-linux-gnu googletest ninja-build python3 qemu-user-static unicode-data
 for processor in "$@"; do
   folder=$top/build/$processor
   say "$processor: fetching ICU"

@@ -25,7 +25,7 @@ fail() {
 }
 
 install_into() {
-  "$CMAKE" --install "$BUILD" ${CONFIG:+--config "$CONFIG"} --prefix "$@" >"$work/install.log" || {
+  "$CMAKE" --install "$BUILD" ${CONFIG:+--config "$CONFIG"} --prefix "$@" > "$work/install.log" || {
     cat "$work/install.log"
     exit 1
   }
@@ -37,8 +37,8 @@ compare_files() {
   local config=${CONFIG:-noconfig}
   sed -nE "s#^($2) ##p" "$tests/files.txt" |
     sed -e "s|/PREFIX/|$1/|" -e "s|\<LIBDIR/|$LIBDIR/|" -e "s|CONFIG|${config,,}|" |
-    LC_ALL=C sort >"$work/expected"
-  (cd "$1" && find . ! -type d -printf '%P\n') | LC_ALL=C sort >"$work/found"
+    LC_ALL=C sort > "$work/expected"
+  (cd "$1" && find . ! -type d -printf '%P\n') | LC_ALL=C sort > "$work/found"
   diff -u "$work/expected" "$work/found" || fail "the files of $2 differ from files.txt"
 }
 
@@ -48,11 +48,11 @@ dynamic() { readelf -d "$2" | sed -nE "s/.*\(($1)\).*\[(.*)\]/\2/p"; }
 # The program must print what is in the file EXPECTED, and need this library but not ICU.
 run_program() {
   local program=$1 expected=$2 needed
-  LD_LIBRARY_PATH=$prefix/$LIBDIR "$program" >"$work/output" || fail "$program ended with status $?"
+  LD_LIBRARY_PATH=$prefix/$LIBDIR "$program" > "$work/output" || fail "$program ended with status $?"
   diff -u "$expected" "$work/output" || fail "the output of $program"
   needed=$(dynamic NEEDED "$program")
-  grep -qx 'libZRString\.so\.1' <<<"$needed" || fail "$program does not need libZRString.so.1"
-  ! grep -i icu <<<"$needed" || fail "$program was linked with ICU"
+  grep -qx 'libZRString\.so\.1' <<< "$needed" || fail "$program does not need libZRString.so.1"
+  ! grep -i icu <<< "$needed" || fail "$program was linked with ICU"
 }
 
 # compile_alone HEADER COMPILER OPTION...: compiles a file which includes nothing but HEADER; no
@@ -61,9 +61,9 @@ compile_alone() {
   local header=$1 unit=$work/alone.cpp
   shift
   case $* in *-std=c99*) unit=$work/alone.c ;; esac
-  printf '#include <%s>\n' "$header" >"$unit"
+  printf '#include <%s>\n' "$header" > "$unit"
   if ! "$@" -I "$prefix/include" -Wall -Wextra -Werror -fsyntax-only "$unit" ||
-    ! "$@" -I "$prefix/include" -E "$unit" >"$work/preprocessed"; then
+    ! "$@" -I "$prefix/include" -E "$unit" > "$work/preprocessed"; then
     fail "$header alone: $*"
   elif grep -m 3 'unicode/' "$work/preprocessed"; then
     fail "$header brings a header of ICU in"
@@ -74,7 +74,7 @@ rm -rf "$work"
 mkdir -p "$work"
 # What the first program prints stands on the page that shows it.
 # shellcheck disable=SC2016 # the marks of a code block, not commands
-sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' >"$work/road.txt"
+sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' > "$work/road.txt"
 [ -s "$work/road.txt" ] || fail "docs/index.md has no output"
 
 say "the installed files"
@@ -82,8 +82,8 @@ install_into "$work/runtime" --component Runtime
 compare_files "$work/runtime" Runtime
 install_into "$work/installed"
 compare_files "$work/installed" 'Runtime|Development'
-"$CMAKE" --build "$BUILD" --target uninstall >"$work/uninstall.log" || fail "uninstalling"
-find "$work/runtime" "$work/installed" \( ! -type d -o -name ZRString \) >"$work/left"
+"$CMAKE" --build "$BUILD" --target uninstall > "$work/uninstall.log" || fail "uninstalling"
+find "$work/runtime" "$work/installed" \( ! -type d -o -name ZRString \) > "$work/left"
 [ ! -s "$work/left" ] || fail "uninstalling left $(cat "$work/left")"
 install_into "$work/installed"
 mv "$work/installed" "$prefix"
@@ -95,8 +95,8 @@ mv "$work/installed" "$prefix"
 say "a C++ project, through find_package"
 if "$CMAKE" -S "$tests/cpp" -B "$work/cpp" -DCMAKE_PREFIX_PATH="$prefix" \
   -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_CXX_FLAGS="$CXXFLAGS -Wall -Wextra -Werror" \
-  >"$work/cpp.log" 2>&1 &&
-  "$CMAKE" --build "$work/cpp" >>"$work/cpp.log" 2>&1; then
+  > "$work/cpp.log" 2>&1 &&
+  "$CMAKE" --build "$work/cpp" >> "$work/cpp.log" 2>&1; then
   grep -q "^ZRString_DIR:.*=$prefix/" "$work/cpp/CMakeCache.txt" ||
     fail "another ZRString was found than the installed one"
   run_program "$work/cpp/road" "$work/road.txt"
@@ -111,22 +111,22 @@ fi
 say "a C project, through pkg-config"
 export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
 cp -r "$tests/c" "$work/c"
-if make -C "$work/c" CC="$CC" SNIPPETS="$top/docs/snippets" >"$work/c.log" 2>&1; then
+if make -C "$work/c" CC="$CC" SNIPPETS="$top/docs/snippets" > "$work/c.log" 2>&1; then
   run_program "$work/c/road" "$work/road.txt"
 else
   cat "$work/c.log"
   fail "the C project"
 fi
-printf '#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING\n' >"$work/version.c"
+printf '#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING\n' > "$work/version.c"
 # shellcheck disable=SC2046 # several options
-"$CC" -E -P $(pkg-config --cflags zrstring) "$work/version.c" >"$work/version.txt"
+"$CC" -E -P $(pkg-config --cflags zrstring) "$work/version.c" > "$work/version.txt"
 grep -qxF "\"$(pkg-config --modversion zrstring)\"" "$work/version.txt" ||
   fail "ZRVersion.h and zrstring.pc: $(cat "$work/version.txt")"
 
 say "the programs of the README"
-readme_block text >"$work/readme.txt"
-readme_block cpp >"$work/readme.cpp"
-readme_block c >"$work/readme.c"
+readme_block text > "$work/readme.txt"
+readme_block cpp > "$work/readme.cpp"
+readme_block c > "$work/readme.c"
 # shellcheck disable=SC2046,SC2086 # several options
 if "$CXX" $CXXFLAGS -std=c++17 "$work/readme.cpp" -o "$work/readme-cpp" \
   $(pkg-config --cflags --libs zrstring) &&
@@ -139,8 +139,8 @@ fi
 
 say "as part of another project"
 if "$CMAKE" -S "$tests/parent" -B "$work/parent" -DBUILD_SHARED_LIBS=OFF \
-  -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents" >"$work/parent.log" 2>&1 &&
-  "$CMAKE" --install "$work/parent" >>"$work/parent.log" 2>&1; then
+  -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents" > "$work/parent.log" 2>&1 &&
+  "$CMAKE" --install "$work/parent" >> "$work/parent.log" 2>&1; then
   [ "$(grep -c 'BUILD_SHARED_LIBS=OFF' "$work/parent.log")" = 1 ] ||
     fail "BUILD_SHARED_LIBS=OFF is not answered once"
   [ ! -e "$work/parents" ] || fail "ZRString installs itself with another project"
