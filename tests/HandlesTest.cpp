@@ -60,6 +60,9 @@ struct Row {
 };
 
 #define ZR_ROW(name, member, parameters) {#name, Erased(&::name), Erased(&member), parameters},
+#define ZR_IMMUTABLE(name, ...) ZR_ROW(name, ZRAccessorStringDKInterfaceImpl::name, __VA_ARGS__)
+#define ZR_MUTABLE(name, ...) ZR_ROW(name, ZRMutableStringDKInterfaceImpl::name, __VA_ARGS__)
+#define ZR_ARRAY(name, member, ...) ZR_ROW(name, ZRStringCDKInterfaceImpl::member, __VA_ARGS__)
 
 const Row kRows[] = {
 #include "HandleRows.inc"

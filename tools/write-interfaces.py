@@ -27,6 +27,7 @@ WIDTH = 100
 class InterfaceClass:
     name: str
     group: str  # the functions that its members repeat
+    row: str  # HandlesTest.cpp's macro for them
     comment: str
     more_declarations: str = ""
     more_definitions: str = ""
@@ -36,11 +37,13 @@ INTERFACE_CLASSES = [
     InterfaceClass(
         "ZRAccessorStringDKInterfaceImpl",
         "Immutable strings",
+        "ZR_IMMUTABLE",
         "/// Immutable strings. Every member has the name of its plain function.\n",
     ),
     InterfaceClass(
         "ZRMutableStringDKInterfaceImpl",
         "Mutable strings",
+        "ZR_MUTABLE",
         "/// Mutable strings. Every member but ZRStringRefConst() has the name of its plain function.\n",
         more_declarations="""\
 
@@ -58,6 +61,7 @@ ZRStringRef__* ZRMutableStringDKInterfaceImpl::ZRStringRefConst(ZRMutableStringR
     InterfaceClass(
         "ZRStringCDKInterfaceImpl",
         "Arrays of strings",
+        "ZR_ARRAY",
         "/// Arrays of strings. The members have names of their own.\n",
     ),
 ]
@@ -189,8 +193,10 @@ def kinds(function):
 
 
 def row(interface, function):
-    member = f"{interface.name}::{member_name(interface, function)}"
-    return f'ZR_ROW({function.name}, {member},\n       "{" ".join(kinds(function))}")\n'
+    names = [function.name]
+    if member_name(interface, function) != function.name:
+        names.append(member_name(interface, function))
+    return f'{interface.row}({", ".join(names)}, "{" ".join(kinds(function))}")\n'
 
 
 def assignment(name):
