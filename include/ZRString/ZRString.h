@@ -22,7 +22,7 @@ class ZRStringMutator;
 /// The number is a plain integer, 1 for a new body. The two operations are all that change it.
 struct ZRStringHolderCount {
  public:
-  bool IsShared() const noexcept { return count_ > 1; }
+  bool IsShared() const noexcept { return count_ > 1; }  ///< Whether there is more than one holder.
 
   /// Adds a holder. Returns the body.
   ZRStringHolderCount* TakeShare() noexcept {
