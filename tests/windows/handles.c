@@ -27,8 +27,7 @@ static int IsExported(Handle library, const char* name, Handle linked) {
   return 0;
 }
 
-static int Run(const char* path) {
-  const Handle library = LoadLibraryExA(path, 0, 8); /* with the DLLs beside it */
+static int Run(Handle library, const char* path) {
   int functions = 0;
   ZRStringRef__* string = 0;
   ZRLong status, length = 0;
@@ -60,7 +59,10 @@ static int Run(const char* path) {
 }
 
 #ifdef LOAD
-int main(int argc, char** argv) { return argc == 2 ? Run(argv[1]) : 2; }
+/* Loads it as Python does: LOAD_LIBRARY_SEARCH_DEFAULT_DIRS | LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR. */
+int main(int argc, char** argv) {
+  return argc == 2 ? Run(LoadLibraryExA(argv[1], 0, 0x1100), argv[1]) : 2;
+}
 #else
-void __cdecl Start(void) { ExitProcess(Run("ZRString.dll")); }
+void __cdecl Start(void) { ExitProcess(Run(GetModuleHandleA("ZRString.dll"), "ZRString.dll")); }
 #endif
