@@ -62,7 +62,7 @@ ZRStringRef__* ZRMutableStringDKInterfaceImpl::ZRStringRefConst(ZRMutableStringR
         "ZRStringCDKInterfaceImpl",
         "Arrays of strings",
         "ZR_ARRAY",
-        "/// Arrays of strings. The members have names of their own.\n",
+        "/// Arrays of strings. Every member has another name than its plain function.\n",
     ),
 ]
 

@@ -165,7 +165,7 @@ class ZR_API ZRMutableStringDKInterfaceImpl {
   static ZRStringRef__* ZRStringRefConst(ZRMutableStringRef__* string);
 };
 
-/// Arrays of strings. The members have names of their own.
+/// Arrays of strings. Every member has another name than its plain function.
 class ZR_API ZRStringCDKInterfaceImpl {
  public:
   /// Copies nothing.

@@ -42,7 +42,7 @@ typedef int ZRLong;
 typedef unsigned int ZRULong;
 #endif
 
-/// Values with a meaning of their own.
+/// Names for special values.
 enum {
   kZRToEnd = -1,      ///< A length: to the end of the text.
   kZRNotFound = -1,   ///< The result of a search that finds nothing.
