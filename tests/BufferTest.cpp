@@ -1,4 +1,4 @@
-// The protocol of the writable buffer: what each call does in each state.
+// The states in which a string has no text: with a writable buffer open, and after ICU has failed.
 #include <ZRString/ZRStringMutator.h>
 #include <gtest/gtest.h>
 
@@ -41,4 +41,36 @@ TEST(Buffer, ACopyMadeWhileItIsOpenSharesTheBody) {
   string.ReleaseBuffer(3);
   EXPECT_EQ(BodyOf(copy), BodyOf(string));
   EXPECT_EQ(TextOf(copy), u"Zbc");
+}
+
+TEST(ErrorState, EndsOnlyWithANewText) {
+  using M = ZRStringMutator;
+  const ZRString other(Make(u"xyz"));
+  const struct {
+    const char* name;
+    void (*edit)(M&, const ZRString&);
+    const char16_t* text;  // null: still in the error state
+  } rows[] = {
+      {"SetTo", [](M& m, const ZRString& s) { m.SetTo(s, 1, 1); }, u"y"},
+      {"assignment", [](M& m, const ZRString& s) { m = s; }, u"xyz"},
+      {"Truncate to nothing", [](M& m, const ZRString&) { m.Truncate(0); }, u""},
+      {"Remove the greatest length", [](M& m, const ZRString&) { m.Remove(0, INT32_MAX); }, u""},
+      {"Remove to the end", [](M& m, const ZRString&) { m.Remove(0, kZRToEnd); }, nullptr},
+      {"RemoveBetween", [](M& m, const ZRString&) { m.RemoveBetween(0, INT32_MAX); }, nullptr},
+      {"Append", [](M& m, const ZRString& s) { m.Append(s, 0, kZRToEnd); }, nullptr},
+      {"Insert", [](M& m, const ZRString& s) { m.Insert(0, s, 0, kZRToEnd); }, nullptr},
+      {"Replace", [](M& m, const ZRString& s) { m.Replace(0, 1, s, 0, kZRToEnd); }, nullptr},
+      {"PadTrailing", [](M& m, const ZRString&) { m.PadTrailing(5, 'x'); }, nullptr},
+      {"Truncate", [](M& m, const ZRString&) { m.Truncate(1); }, nullptr},
+      {"GetBuffer", [](M& m, const ZRString&) { EXPECT_EQ(m.GetBuffer(9), nullptr); }, nullptr},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    M string(Make(u"abc"));
+    string.PadLeading(INT32_MAX, 'x');  // more than ICU can hold
+    ASSERT_EQ(string.GetBuffer(), nullptr);
+    row.edit(string, other);
+    EXPECT_EQ(string.GetBuffer() != nullptr, row.text != nullptr);
+    EXPECT_EQ(TextOf(string), row.text ? row.text : u"");
+  }
 }
