@@ -10,7 +10,7 @@
 #include <new>
 
 #include "Memory.h"
-#include "Model.h"
+#include "World.h"
 
 #ifdef _WIN32
 #include "windows/ImportedOperators.h"  // a DLL does not see the program's operators
@@ -70,7 +70,7 @@ class Allocation : public testing::Test {
 std::string Wrong(World& world, const Operation& operation, Form form, bool valid, Memory& memory,
                   int point, bool once, bool& failed) {
   Case c = world.Draw(operation.kind, valid);
-  Result result = 0;
+  Text result;
   bool thrown = false;
   memory.Fail(point, once);
   try {
@@ -83,10 +83,10 @@ std::string Wrong(World& world, const Operation& operation, Form form, bool vali
     return "a handle was written";
   if (thrown)
     return world.Unchanged(operation, c);
-  if (failed && operation.kind == kEdit && !c.s->GetBuffer())
+  if (failed && operation.kind == kEdit && !c.t->GetBuffer())
     return world.Lost(c);
   const bool lostSum = operation.kind == kSum && !valid && c.made && !c.made->GetBuffer();
-  if (failed && (lostSum || (operation.kind == kAttempt && result == Result(0))))
+  if (failed && (lostSum || (operation.kind == kAttempt && result == u"0")))
     return world.Unchanged(operation, c);
   return world.Settle(operation, c, result);
 }

@@ -1,6 +1,6 @@
 // The library against the model: random operations on strings that share bodies, and on an array.
 // Arguments: the number of operations and the seed, both of which a failure prints.
-#include "Model.h"
+#include "World.h"
 
 #include <gtest/gtest.h>
 

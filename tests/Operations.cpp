@@ -4,8 +4,8 @@
 #include <new>
 #include <stdexcept>
 
-#include "Model.h"
 #include "Recorder.h"
+#include "World.h"
 
 namespace {
 
@@ -13,13 +13,14 @@ int Sign(int value) { return (value > 0) - (value < 0); }
 
 /// The text with the range that begins at `start` replaced.
 Text Spliced(const Case& c, const Text& range, const Text& part) {
-  const auto first = static_cast<std::size_t>(std::clamp<long long>(c.start, 0, c.Size()));
-  return c.text.substr(0, first) + part + c.text.substr(first + range.size());
+  const auto first = static_cast<std::size_t>(std::clamp<long long>(c.t.start, 0, c.Size()));
+  return c.t.text.substr(0, first) + part + c.t.text.substr(first + range.size());
 }
 
 /// The index that a search inside the target's own range gives.
 ZRLong Found(const Case& c, std::size_t at) {
-  return c.part.empty() || at == Text::npos ? -1 : static_cast<ZRLong>(at) + std::max(c.start, 0);
+  return c.o.part.empty() || at == Text::npos ? -1
+                                              : static_cast<ZRLong>(at) + std::max(c.t.start, 0);
 }
 
 Text AllReplaced(Text text, const Text& oldText, const Text& newText) {
@@ -51,8 +52,8 @@ int Collated(const Text& left, const Text& right) {
 }
 
 int Compared(const Case& c) {
-  return c.options == 3 ? Collated(c.own, c.part)
-                        : Sign(Mapped(c.own, Lower).compare(Mapped(c.part, Lower)));
+  return c.options == 3 ? Collated(c.t.part, c.o.part)
+                        : Sign(Mapped(c.t.part, Lower).compare(Mapped(c.o.part, Lower)));
 }
 
 Text Trimmed(const Text& text) {
@@ -60,16 +61,83 @@ Text Trimmed(const Text& text) {
   return first == Text::npos ? Text() : text.substr(first, text.find_last_not_of(u' ') + 1 - first);
 }
 
-/// What a handle function returned, where a member returns 1.
-long long Done(ZRLong status) { return status == 0 ? 1 : -1000 - status; }
+Text Give(long long number) {
+  const std::string digits = std::to_string(number);
+  return Text(digits.begin(), digits.end());
+}
 
-/// The same of one that makes a string.
-long long Made(Case& c, ZRLong status) {
+Text Give(Text text) { return text; }
+
+// Operands as a call takes them; each says which units it is about.
+
+const unsigned short* Raw(Case& c) { return c.o.part = c.raw.part, c.raw.units; }
+
+unsigned short* Pattern(Case& c) {
+  return const_cast<unsigned short*>(Raw(c) ? c.raw.units + c.raw.start : nullptr);
+}
+
+const UniStr255& Record(Case& c) { return c.o.part = c.raw.part, c.record; }
+
+const unsigned short* Terminated(Case& c) { return c.o.part = c.z.part, c.z.units; }
+
+const unsigned short* OldRaw(Case& c) {
+  return c.o.part = Cut(c.z.part, c.o.start, c.o.length), c.z.units;
+}
+
+const unsigned short* NewRaw(Case& c) {
+  return c.p.part = Cut(c.y.part, c.p.start, c.p.length), c.y.units;
+}
+
+/// Collated, a raw operand is a terminated text unless it is taken from its start.
+signed char CompareRaw(Case& c) {
+  if (c.options != 3)
+    return c.t->ICompare(c.t.start, c.t.length, Raw(c), c.raw.start, c.raw.length, 0);
+  if (c.o.start == 0)
+    return c.t->ICompare(c.t.start, c.t.length, Pattern(c), 0, c.raw.length, c.options);
+  return c.t->ICompare(c.t.start, c.t.length, OldRaw(c), c.o.start, c.o.length, c.options);
+}
+
+ZRStringRef__* Whole(Operand& operand) { return operand.part = operand.text, operand.Handle(); }
+
+ZRLong Between(Operand& operand) {
+  operand.part = CutBetween(operand.text, operand.start, operand.length);
+  return operand.start;
+}
+
+ZRLong Prefix(Case& c) {
+  c.o.start = 0;
+  c.o.part = Cut(c.o.text, 0, c.o.length);
+  return c.o.length;
+}
+
+unsigned short Unit(const Case& c, Text& text) { return text = Text(1, c.unit), c.unit; }
+
+ZRStringMutator& Editable(Case& c) {
+  c.o = c.e;
+  return static_cast<ZRStringMutator&>(*c.o);
+}
+
+/// What fills the target's text up to the capacity.
+Text Padding(Case& c) { return c.p.part = Text(std::max(c.capacity - c.Size(), 0LL), c.unit); }
+
+/// The index of the unit that SetCharAt() replaces.
+std::size_t Pinned(const Case& c) { return std::clamp<long long>(c.t.start, 0, c.Size() - 1); }
+
+/// The rule for a range of a string: the whole of it is shared.
+Text RangeOf(Case& c) {
+  const auto size = static_cast<ZRLong>(c.o.text.size());
+  if (c.o.start == 0 && (c.o.length == -1 || c.o.length == size))
+    c.shared = c.o.slot;
+  return c.o.part;
+}
+
+/// Takes over what a create function made.
+ZRLong Made(Case& c, ZRLong status) {
   if (c.newString)
     c.made.reset(const_cast<ZRString*>(&GetZRStringFromRef(c.newString)));
   if (c.newMutable)
     c.made.reset(&GetZRStringMutatorFromRef(c.newMutable));
-  return Done(status);
+  return status;
 }
 
 constexpr std::size_t kRoom = 200;  // in a caller's array, filled with # and used from unit 2
@@ -86,12 +154,11 @@ Text Filled(bool written, const Text& part) {
 }
 
 /// Writes Zy and a zero unit through the open buffer; whether what was there before still was.
-long long FillBuffer(const Case& c, unsigned short* units, ZRLong capacity) {
-  if (!units)
-    return 0;
-  const bool kept = std::equal(c.text.begin(), c.text.end(), units) && capacity >= c.capacity;
-  for (const unsigned short unit : {'Z', 'y', '\0'})
-    *units++ = unit;
+bool FillBuffer(const Case& c, unsigned short* units, ZRLong capacity) {
+  const Text& text = c.t.text;
+  const bool kept = units && std::equal(text.begin(), text.end(), units) && capacity >= c.capacity;
+  if (units)
+    std::copy_n(u"Zy", 3, units);
   return kept;
 }
 
@@ -111,22 +178,9 @@ bool Inside(const Case& c) {
 
 /// Puts a new string, a copy of the operand, into the array, which owns its entries here.
 template <typename Call>
-long long Stored(Case& c, Call call) {
+bool Stored(Case& c, Call call) {
   auto entry = std::make_unique<ZRString>(*c.o);
-  const bool stored = call(entry.get());
-  if (stored)
-    entry.release();
-  return stored;
-}
-
-/// The same in the place of an entry, which ends.
-template <typename Call>
-long long Replacing(Case& c, Call call) {
-  ZRString* const replaced = Inside(c) ? (*c.a)[c.index] : nullptr;
-  const long long stored = Stored(c, call);
-  if (stored)
-    delete replaced;
-  return stored;
+  return call(entry.get()) && entry.release();
 }
 
 /// The entry at a valid index, whose ownership passes to the caller.
@@ -134,11 +188,14 @@ std::unique_ptr<ZRString> Dropped(Case& c) {
   return std::unique_ptr<ZRString>(Inside(c) ? (*c.a)[c.index] : nullptr);
 }
 
-/// A copy's entries are the same pointers, and the array is none the poorer for its end.
-bool SameEntries(const Case& c, ZRStringPtrArray& copy) {
-  const bool same = std::equal(c.a->Begin(), c.a->End(), copy.Begin(), copy.End());
-  copy.EraseAll();
-  return same && copy.Empty();
+/// Stored(), in the place of an entry, which ends.
+template <typename Call>
+bool Replacing(Case& c, Call call) {
+  const ZRString* const replaced = Inside(c) ? (*c.a)[c.index] : nullptr;
+  const bool stored = Stored(c, call);
+  if (stored)
+    delete replaced;
+  return stored;
 }
 
 /// The text of an entry; 12 question marks, as the status, where there is none.
@@ -151,341 +208,261 @@ Text EntryText(Get get) {
   }
 }
 
-Text Unit(const Case& c) { return Text(1, c.unit); }
-
-/// What fills the text up to the capacity.
-Text Padding(Case& c) { return c.newPart = Text(std::max(c.capacity - c.Size(), 0LL), c.unit); }
-
-/// The rule for a range of a string: the whole of it is shared.
-void ShareWhole(Case& c, ZRLong start) {
-  if (start == 0 && (c.oLength == -1 || c.oLength == static_cast<long long>(c.oText.size())))
-    c.shared = c.operand;
-}
-
-// Operands as a call takes them; each says which units they are.
-
-const unsigned short* Raw(Case& c) { return c.part = c.raw.text, c.raw.units; }
-
-unsigned short* Pattern(Case& c) {
-  return const_cast<unsigned short*>(Raw(c) ? c.raw.units + c.raw.start : nullptr);
-}
-
-/// Collated, a raw operand is a terminated text unless it is taken from its start.
-signed char CompareRaw(Case& c) {
-  if (c.options != 3)
-    return c.s->ICompare(c.start, c.length, Raw(c), c.raw.start, c.raw.length, 0);
-  if (c.oStart == 0)
-    return c.s->ICompare(c.start, c.length, Pattern(c), 0, c.raw.length, c.options);
-  c.part = Cut(c.z.text, c.oStart, c.oLength);
-  return c.s->ICompare(c.start, c.length, c.z.units, c.oStart, c.oLength, c.options);
-}
-
-const unsigned short* OldRaw(Case& c) {
-  c.part = Cut(c.z.text, c.oStart, c.oLength);
-  return c.z.units;
-}
-
-const unsigned short* NewRaw(Case& c) {
-  c.newPart = Cut(c.y.text, c.pStart, c.pLength);
-  return c.y.units;
-}
-
-ZRStringRef__* Whole(Case& c) { return c.part = c.oText, c.O(); }
-
-ZRStringRef__* NewWhole(Case& c) { return c.newPart = c.pText, c.p->GetZRStringRef(); }
-
-ZRLong Between(Case& c) {
-  c.own = CutBetween(c.text, c.start, c.length);
-  c.part = CutBetween(c.oText, c.oStart, c.oLength);
-  return c.start;
-}
-
-const UniStr255& Record(Case& c) { return c.part = c.raw.text, c.record; }
-
-const unsigned char* Bytes(const Case& c) {
-  return reinterpret_cast<const unsigned char*>(c.bytes);
+/// A copy's entries are the same pointers, and the array is none the poorer for its end.
+bool SameEntries(const Case& c, ZRStringPtrArray& copy) {
+  const bool same = std::equal(c.a->Begin(), c.a->End(), copy.Begin(), copy.End());
+  copy.EraseAll();
+  return same && copy.Empty();
 }
 
 }  // namespace
 
-// Arguments: the target's range, an operand with its range, a raw operand, ranges by their ends.
-#define ZR_OWN c.start, c.length
-#define ZR_SRC *c.o, c.oStart, c.oLength
+// Arguments: the target's range, an operand with its range, the same as a handle, with inclusive
+// ends, the second operand, and raw ones.
+#define ZR_OWN c.t.start, c.t.length
+#define ZR_SRC *c.o, c.o.start, c.o.length
+#define ZR_HANDLE c.o.Handle(), c.o.start, c.o.length
+#define ZR_BETWEEN Between(c.t), c.t.length, *c.o, Between(c.o), c.o.length
+#define ZR_NEW *c.p, c.p.start, c.p.length
 #define ZR_RAW Raw(c), c.raw.start, c.raw.length
-#define ZR_HANDLE c.O(), c.oStart, c.oLength
-#define ZR_BETWEEN Between(c), c.length, ZR_SRC
-#define ZR_NEW *c.p, c.pStart, c.pLength
+#define ZR_OLD_RAW OldRaw(c), c.o.start, c.o.length
+#define ZR_NEW_RAW NewRaw(c), c.p.start, c.p.length
+#define ZR_CHARS c.bytes.units, c.bytes.start, c.bytes.length
+#define ZR_BYTES \
+  reinterpret_cast<const unsigned char*>(c.bytes.units), c.bytes.start, c.bytes.length
 
-// Forms of a call: a number or a text; an edit, which gives its string; a handle function alone,
-// with c.number, with a flag; one that writes to units[2] on; the making of a string or a mutator.
-#define ZR_GIVES(...) [](Case& c) -> Result { return __VA_ARGS__; }
-#define ZR_EDIT(...) [](Case& c) -> Result { return &c.m->__VA_ARGS__ == c.m; }
-#define ZR_DO(...) [](Case& c) -> Result { return __VA_ARGS__, 1; }
-#define ZR_DONE(...) [](Case& c) -> Result { return Done(__VA_ARGS__); }
-#define ZR_NUMBER(...) [](Case& c) -> Result { return (__VA_ARGS__) == 0 ? c.number : -1000; }
-#define ZR_FLAG(...)                       \
-  [](Case& c) -> Result {                  \
-    unsigned char flag = 9;                \
-    return (__VA_ARGS__) == 0 ? flag : -1; \
-  }
-#define ZR_WRITTEN(...) \
-  [](Case& c) -> Result { return Written([&](unsigned short* units) { __VA_ARGS__; }); }
-#define ZR_MAKE(type, ...) [](Case& c) -> Result { return c.made.reset(new type(__VA_ARGS__)), 1; }
-#define ZR_MAKE_EITHER(...)                                     \
-  [](Case& c) -> Result {                                       \
-    if (c.m)                                                    \
-      return c.made.reset(new ZRStringMutator(__VA_ARGS__)), 1; \
-    return c.made.reset(new ZRString(__VA_ARGS__)), 1;          \
-  }
-#define ZR_MADE(...) [](Case& c) -> Result { return Made(c, __VA_ARGS__); }
-#define ZR_MADE_EITHER(name, ...)                                          \
-  [](Case& c) -> Result {                                                  \
-    return Made(c, c.m ? ZRMutableString##name(__VA_ARGS__, &c.newMutable) \
-                       : ZRString##name(__VA_ARGS__, &c.newString));       \
-  }
-#define ZR_STORED(how, ...) \
-  [](Case& c) -> Result { return how(c, [&](ZRString* entry) { return __VA_ARGS__; }); }
-#define ZR_TEXT(...) [](Case& c) -> Result { return c.text = (__VA_ARGS__), 1; }
+// Forms of a call. What gives nothing else gives 1, a status of 0 as well.
+#define ZR_IS(...) [](Case& c) -> Text { return Give(__VA_ARGS__); }
+#define ZR_EDIT(...) ZR_IS(&c.m->__VA_ARGS__ == c.m)
+#define ZR_DO(...) ZR_IS((__VA_ARGS__, 1))
+#define ZR_DONE(...) ZR_IS((__VA_ARGS__) == 0)
+#define ZR_NUMBER(...) ZR_IS((__VA_ARGS__) == 0 ? c.number : -1000)
+#define ZR_FLAG(...) ZR_IS((__VA_ARGS__) == 0 ? c.flag : -1000)
+#define ZR_WRITTEN(...) ZR_IS(Written([&](unsigned short* units) { __VA_ARGS__; }))
+#define ZR_MAKE(...) \
+  ZR_DO(c.made.reset(c.m ? new ZRStringMutator(__VA_ARGS__) : new ZRString(__VA_ARGS__)))
+#define ZR_MADE(name, ...)                                                \
+  ZR_DONE(Made(c, c.m ? ZRMutableString##name(__VA_ARGS__, &c.newMutable) \
+                      : ZRString##name(__VA_ARGS__, &c.newString)))
+#define ZR_STORED(how, ...) ZR_IS(how(c, [&](ZRString* entry) { return __VA_ARGS__; }))
+#define ZR_TEXT(...) ZR_DO(c.t.text = (__VA_ARGS__))
 
 const std::vector<Operation>& Operations() {
   static const std::vector<Operation> operations = {
-    {"ordering operators", kQuery, ZR_GIVES(c.text == c.oText ? 103 : c.text < c.oText ? 60 : 55),
-     {ZR_GIVES(100 * (*c.s == *c.o) + 50 * (*c.s != *c.o) + 8 * (*c.s < *c.o) + 4 * (*c.s > *c.o) +
-               2 * (*c.s <= *c.o) + (*c.s >= *c.o))}},
-    {"Compare", kQuery, ZR_GIVES(Sign(c.own.compare(c.part))),
-     {ZR_GIVES(c.s->Compare(ZR_OWN, ZR_SRC)), ZR_GIVES(c.s->Compare(ZR_OWN, ZR_RAW)),
-      ZR_GIVES(c.s->CompareBetween(ZR_BETWEEN)), ZR_GIVES(c.s->CompareCodePointOrder(ZR_OWN, ZR_SRC)),
-      ZR_GIVES(c.s->CompareCodePointOrder(ZR_OWN, ZR_RAW)),
-      ZR_GIVES(c.s->CompareCodePointOrderBetween(ZR_BETWEEN))},
-     {ZR_NUMBER(ZRStringCompare(c.S(), ZR_OWN, ZR_HANDLE, &c.number)),
-      ZR_NUMBER(ZRStringCompareCodePointOrder(c.S(), ZR_OWN, ZR_HANDLE, &c.number))}},
-    {"ICompare", kQuery, ZR_GIVES(Compared(c)), {ZR_GIVES(c.s->ICompare(ZR_OWN, ZR_SRC, c.options)),
-      ZR_GIVES(CompareRaw(c)), ZR_GIVES(c.s->ICompareBetween(ZR_BETWEEN, c.options))},
-     {ZR_NUMBER(ZRStringICompare(c.S(), ZR_OWN, ZR_HANDLE, c.options, &c.number))}},
-    {"StartsWith", kQuery, ZR_GIVES(c.text.compare(0, c.part.size(), c.part) == 0),
-     {ZR_GIVES(c.s->StartsWith(ZR_SRC)), ZR_GIVES(c.s->StartsWith(ZR_RAW))}},
+    {"ordering operators", kQuery,
+     ZR_IS(c.t.text == c.o.text ? 103 : c.t.text < c.o.text ? 60 : 55),
+     {ZR_IS(100 * (*c.t == *c.o) + 50 * (*c.t != *c.o) + 8 * (*c.t < *c.o) + 4 * (*c.t > *c.o) +
+            2 * (*c.t <= *c.o) + (*c.t >= *c.o))}},
+    {"Compare", kQuery, ZR_IS(Sign(c.t.part.compare(c.o.part))),
+     {ZR_IS(c.t->Compare(ZR_OWN, ZR_SRC)), ZR_IS(c.t->Compare(ZR_OWN, ZR_RAW)),
+      ZR_IS(c.t->CompareBetween(ZR_BETWEEN)), ZR_IS(c.t->CompareCodePointOrder(ZR_OWN, ZR_SRC)),
+      ZR_IS(c.t->CompareCodePointOrder(ZR_OWN, ZR_RAW)),
+      ZR_IS(c.t->CompareCodePointOrderBetween(ZR_BETWEEN))},
+     {ZR_NUMBER(ZRStringCompare(c.t.Handle(), ZR_OWN, ZR_HANDLE, &c.number)),
+      ZR_NUMBER(ZRStringCompareCodePointOrder(c.t.Handle(), ZR_OWN, ZR_HANDLE, &c.number))}},
+    {"ICompare", kQuery, ZR_IS(Compared(c)),
+     {ZR_IS(c.t->ICompare(ZR_OWN, ZR_SRC, c.options)), ZR_IS(CompareRaw(c)),
+      ZR_IS(c.t->ICompareBetween(ZR_BETWEEN, c.options))},
+     {ZR_NUMBER(ZRStringICompare(c.t.Handle(), ZR_OWN, ZR_HANDLE, c.options, &c.number))}},
+    {"StartsWith", kQuery, ZR_IS(c.t.text.compare(0, c.o.part.size(), c.o.part) == 0),
+     {ZR_IS(c.t->StartsWith(ZR_SRC)), ZR_IS(c.t->StartsWith(ZR_RAW))}},
     {"EndsWith", kQuery,
-     ZR_GIVES(c.part.size() <= c.text.size() &&
-              c.text.substr(c.text.size() - c.part.size()) == c.part),
-     {ZR_GIVES(c.s->EndsWith(ZR_SRC)), ZR_GIVES(c.s->EndsWith(ZR_RAW))}},
-    {"Find", kQuery, ZR_GIVES(Found(c, c.own.find(c.part))),
-     {ZR_GIVES(c.s->Find(ZR_SRC, ZR_OWN)), ZR_GIVES(c.s->Find(ZR_RAW, ZR_OWN))},
-     {ZR_NUMBER(ZRStringFind(c.S(), ZR_OWN, Whole(c), &c.number)),
-      ZR_NUMBER(ZRStringFindUniChars(c.S(), ZR_OWN, Pattern(c), c.raw.length, &c.number))}},
-    {"RFind", kQuery, ZR_GIVES(Found(c, c.own.rfind(c.part))),
-     {ZR_GIVES(c.s->RFind(ZR_SRC, ZR_OWN)), ZR_GIVES(c.s->RFind(ZR_RAW, ZR_OWN))},
-     {ZR_NUMBER(ZRStringRFind(c.S(), ZR_OWN, Whole(c), &c.number)),
-      ZR_NUMBER(ZRStringRFindUniChars(c.S(), ZR_OWN, Pattern(c), c.raw.length, &c.number))}},
-    {"LastIndexOf", kQuery, ZR_GIVES(static_cast<int>(c.text.rfind(static_cast<char16_t>(c.unit)))),
-     {ZR_GIVES(c.s->LastIndexOf(c.unit))},
+     ZR_IS(std::equal(c.o.part.rbegin(), c.o.part.rend(), c.t.text.rbegin(),
+                      c.t.text.rbegin() + std::min(c.o.part.size(), c.t.text.size()))),
+     {ZR_IS(c.t->EndsWith(ZR_SRC)), ZR_IS(c.t->EndsWith(ZR_RAW))}},
+    {"Find", kQuery, ZR_IS(Found(c, c.t.part.find(c.o.part))),
+     {ZR_IS(c.t->Find(ZR_SRC, ZR_OWN)), ZR_IS(c.t->Find(ZR_RAW, ZR_OWN))},
+     {ZR_NUMBER(ZRStringFind(c.t.Handle(), ZR_OWN, Whole(c.o), &c.number)),
+      ZR_NUMBER(ZRStringFindUniChars(c.t.Handle(), ZR_OWN, Pattern(c), c.raw.length, &c.number))}},
+    {"RFind", kQuery, ZR_IS(Found(c, c.t.part.rfind(c.o.part))),
+     {ZR_IS(c.t->RFind(ZR_SRC, ZR_OWN)), ZR_IS(c.t->RFind(ZR_RAW, ZR_OWN))},
+     {ZR_NUMBER(ZRStringRFind(c.t.Handle(), ZR_OWN, Whole(c.o), &c.number)),
+      ZR_NUMBER(ZRStringRFindUniChars(c.t.Handle(), ZR_OWN, Pattern(c), c.raw.length, &c.number))}},
+    {"LastIndexOf", kQuery, ZR_IS(static_cast<int>(c.t.text.rfind(char16_t(c.unit)))),
+     {ZR_IS(c.t->LastIndexOf(c.unit))},
      {ZR_NUMBER(c.m ? ZRMutableStringLastIndexOf(c.M(), c.unit, &c.number)
-                    : ZRStringLastIndexOf(c.S(), c.unit, &c.number))}},
-    {"a unit", kQuery, ZR_GIVES(c.index >= 0 && c.index < c.Size() ? c.text[c.index] : 0xFFFF),
-     {ZR_GIVES(c.s->CharAt(c.index)), ZR_GIVES((*c.s)[c.index])}},
-    {"GetLength", kQuery, ZR_GIVES(c.Size()), {ZR_GIVES(c.s->GetLength())},
-     {ZR_NUMBER(ZRStringGetLength(c.S(), &c.number))}},
-    {"IsEmpty", kQuery, ZR_GIVES(c.text.empty()), {ZR_GIVES(c.s->IsEmpty())},
-     {ZR_FLAG(ZRStringIsEmpty(c.S(), &flag))}},
+                    : ZRStringLastIndexOf(c.t.Handle(), c.unit, &c.number))}},
+    {"a unit", kQuery, ZR_IS(c.index >= 0 && c.index < c.Size() ? c.t.text[c.index] : 0xFFFF),
+     {ZR_IS(c.t->CharAt(c.index)), ZR_IS((*c.t)[c.index])}},
+    {"GetLength", kQuery, ZR_IS(c.Size()), {ZR_IS(c.t->GetLength())},
+     {ZR_NUMBER(ZRStringGetLength(c.t.Handle(), &c.number))}},
+    {"IsEmpty", kQuery, ZR_IS(c.t.text.empty()), {ZR_IS(c.t->IsEmpty())},
+     {ZR_FLAG(ZRStringIsEmpty(c.t.Handle(), &c.flag))}},
     {"Extract", kQuery,
-     ZR_GIVES(Filled(c.start >= 0 && c.start <= c.Size() && c.length >= -1, c.own)),
-     {ZR_WRITTEN(c.s->Extract(ZR_OWN, units, 2))},
-     {ZR_WRITTEN(ZRStringExtractIntoUniChars(c.S(), ZR_OWN, units, 2))}},
+     ZR_IS(Filled(c.t.start >= 0 && c.t.start <= c.Size() && c.t.length >= -1, c.t.part)),
+     {ZR_WRITTEN(c.t->Extract(ZR_OWN, units, 2))},
+     {ZR_WRITTEN(ZRStringExtractIntoUniChars(c.t.Handle(), ZR_OWN, units, 2))}},
     {"ExtractBetween", kQuery,
-     ZR_GIVES(Filled(c.start >= 0 && c.start <= std::min(c.length + 1LL, c.Size()), c.own)),
-     {ZR_WRITTEN(c.s->ExtractBetween(Between(c), c.length, units, 2))}},
+     ZR_IS(Filled(c.t.start >= 0 && c.t.start <= std::min(c.t.length + 1LL, c.Size()), c.t.part)),
+     {ZR_WRITTEN(c.t->ExtractBetween(Between(c.t), c.t.length, units, 2))}},
     {"GetUniCharsAt", kQuery,
-     [](Case& c) -> Result {
-       if (c.index >= 0 && c.index < c.Size())
-         return Filled(true, Cut(c.text, c.index, c.count));
-       return Filled(false, u"").replace(2, 1, u"\uFFFF");
-     },
-     {ZR_WRITTEN(ZRStringGetUniCharsAt(c.S(), c.index, c.count, units + 2))}},
+     ZR_IS(c.index >= 0 && c.index < c.Size()
+               ? Filled(true, Cut(c.t.text, c.index, c.count))
+               : Filled(false, u"").replace(2, 1, u"\uFFFF")),
+     {ZR_WRITTEN(ZRStringGetUniCharsAt(c.t.Handle(), c.index, c.count, units + 2))}},
 
-    {"SetTo", kEdit, ZR_TEXT(c.part),
-     {ZR_EDIT(SetTo(ZR_SRC)), ZR_EDIT(SetTo(Pattern(c), c.raw.length))},
+    {"SetTo", kEdit, ZR_TEXT(c.o.part),
+     {ZR_EDIT(SetTo(ZR_SRC)), ZR_EDIT(SetTo(Pattern(c), c.raw.length)),
+      ZR_DO(Editable(c).Extract(c.o.start, c.o.length, *c.m)),
+      ZR_DO(Editable(c).ExtractBetween(Between(c.o), c.o.length, *c.m))},
      {ZR_DONE(ZRMutableStringSetToZRString(c.M(), ZR_HANDLE))}},
     {"SetCharAt", kEdit,
-     [](Case& c) -> Result {
-       if (!c.text.empty())
-         c.text[std::clamp<long long>(c.start, 0, c.Size() - 1)] = c.unit;
-       return 1;
-     },
-     {ZR_EDIT(SetCharAt(c.start, c.unit))},
-     {ZR_DONE(ZRMutableStringSetUniCharAt(c.M(), c.start, c.unit))}},
-    {"+=", kEdit, ZR_TEXT(c.text + Unit(c)), {ZR_EDIT(operator+=(c.unit))}},
-    {"Append", kEdit, ZR_TEXT(c.text + c.part), {ZR_EDIT(Append(ZR_SRC)), ZR_EDIT(Append(ZR_RAW)),
-      ZR_EDIT(operator+=((Whole(c), *c.o)))}, {ZR_DONE(ZRMutableStringAppend(c.M(), Whole(c))),
+     ZR_TEXT(c.t.text.empty() ? u"" : c.t.text.replace(Pinned(c), 1, 1, c.unit)),
+     {ZR_EDIT(SetCharAt(c.t.start, c.unit))},
+     {ZR_DONE(ZRMutableStringSetUniCharAt(c.M(), c.t.start, c.unit))}},
+    {"Append", kEdit, ZR_TEXT(c.t.text + c.o.part),
+     {ZR_EDIT(Append(ZR_SRC)), ZR_EDIT(Append(ZR_RAW)), ZR_EDIT(operator+=((Whole(c.o), *c.o))),
+      ZR_EDIT(operator+=(Unit(c, c.o.part)))},
+     {ZR_DONE(ZRMutableStringAppend(c.M(), Whole(c.o))),
       ZR_DONE(ZRMutableStringAppendUniChars(c.M(), ZR_RAW))}},
-    {"Insert", kEdit, ZR_TEXT(Spliced(c, u"", c.part)),
-     {ZR_EDIT(Insert(c.start, ZR_SRC)), ZR_EDIT(Insert(c.start, ZR_RAW))},
-     {ZR_DONE(ZRMutableStringInsert(c.M(), c.start, ZR_HANDLE)),
-      ZR_DONE(ZRMutableStringInsertUniChars(c.M(), c.start, ZR_RAW))}},
-    {"Replace", kEdit, ZR_TEXT(Spliced(c, c.own, c.part)), {ZR_EDIT(Replace(ZR_OWN, ZR_SRC)),
-      ZR_EDIT(Replace(ZR_OWN, ZR_RAW)), ZR_EDIT(ReplaceBetween(ZR_BETWEEN))},
-     {ZR_DONE(ZRMutableStringReplaceBetween(c.M(), ZR_OWN, Whole(c))),
+    {"Insert", kEdit, ZR_TEXT(Spliced(c, u"", c.o.part)),
+     {ZR_EDIT(Insert(c.t.start, ZR_SRC)), ZR_EDIT(Insert(c.t.start, ZR_RAW))},
+     {ZR_DONE(ZRMutableStringInsert(c.M(), c.t.start, ZR_HANDLE)),
+      ZR_DONE(ZRMutableStringInsertUniChars(c.M(), c.t.start, ZR_RAW))}},
+    {"Replace", kEdit, ZR_TEXT(Spliced(c, c.t.part, c.o.part)),
+     {ZR_EDIT(Replace(ZR_OWN, ZR_SRC)), ZR_EDIT(Replace(ZR_OWN, ZR_RAW)),
+      ZR_EDIT(ReplaceBetween(ZR_BETWEEN))},
+     {ZR_DONE(ZRMutableStringReplaceBetween(c.M(), ZR_OWN, Whole(c.o))),
       ZR_DONE(ZRMutableStringReplaceWithUniChars(c.M(), ZR_OWN, ZR_RAW))}},
-    {"Remove", kEdit, ZR_TEXT(Spliced(c, c.own, u"")),
-     {ZR_EDIT(Remove(ZR_OWN)), ZR_EDIT(RemoveBetween(Between(c), c.length))},
-     {ZR_DONE(ZRMutableStringRemoveBetween(c.M(), c.length == -1 ? c.start : Between(c),
-                                           c.length))}},
-    {"FindAndReplace", kEdit, ZR_TEXT(Spliced(c, c.own, AllReplaced(c.own, c.part, c.newPart))),
+    {"Remove", kEdit, ZR_TEXT(Spliced(c, c.t.part, u"")),
+     {ZR_EDIT(Remove(ZR_OWN)), ZR_EDIT(RemoveBetween(Between(c.t), c.t.length))},
+     {ZR_DONE(ZRMutableStringRemoveBetween(c.M(), c.t.length == -1 ? c.t.start : Between(c.t),
+                                           c.t.length))}},
+    {"FindAndReplace", kEdit,
+     ZR_TEXT(Spliced(c, c.t.part, AllReplaced(c.t.part, c.o.part, c.p.part))),
      {ZR_EDIT(FindAndReplace(ZR_OWN, ZR_SRC, ZR_NEW)),
-      ZR_EDIT(FindAndReplace(ZR_OWN, OldRaw(c), c.oStart, c.oLength, ZR_NEW)),
-      ZR_EDIT(FindAndReplace(ZR_OWN, ZR_SRC, NewRaw(c), c.pStart, c.pLength)),
-      ZR_EDIT(FindAndReplace(ZR_OWN, OldRaw(c), c.oStart, c.oLength, NewRaw(c), c.pStart,
-                             c.pLength))},
-     {ZR_DONE(ZRMutableStringFindAndReplace(c.M(), ZR_OWN, Whole(c), NewWhole(c)))}},
-    {"PadLeading", kEdit, ZR_GIVES(c.text = Padding(c) + c.text, !c.newPart.empty()),
-     {ZR_GIVES(c.m->PadLeading(c.capacity, c.unit))},
-     {ZR_FLAG(ZRMutableStringPadLeading(c.M(), c.capacity, c.unit, &flag))}},
-    {"PadTrailing", kEdit, ZR_GIVES(c.text += Padding(c), !c.newPart.empty()),
-     {ZR_GIVES(c.m->PadTrailing(c.capacity, c.unit))},
-     {ZR_FLAG(ZRMutableStringPadTrailing(c.M(), c.capacity, c.unit, &flag))}},
+      ZR_EDIT(FindAndReplace(ZR_OWN, ZR_OLD_RAW, ZR_NEW)),
+      ZR_EDIT(FindAndReplace(ZR_OWN, ZR_SRC, ZR_NEW_RAW)),
+      ZR_EDIT(FindAndReplace(ZR_OWN, ZR_OLD_RAW, ZR_NEW_RAW))},
+     {ZR_DONE(ZRMutableStringFindAndReplace(c.M(), ZR_OWN, Whole(c.o), Whole(c.p)))}},
+    {"PadLeading", kEdit, ZR_IS((c.t.text = Padding(c) + c.t.text, !c.p.part.empty())),
+     {ZR_IS(c.m->PadLeading(c.capacity, c.unit))},
+     {ZR_FLAG(ZRMutableStringPadLeading(c.M(), c.capacity, c.unit, &c.flag))}},
+    {"PadTrailing", kEdit, ZR_IS((c.t.text += Padding(c), !c.p.part.empty())),
+     {ZR_IS(c.m->PadTrailing(c.capacity, c.unit))},
+     {ZR_FLAG(ZRMutableStringPadTrailing(c.M(), c.capacity, c.unit, &c.flag))}},
     {"Truncate", kEdit,
-     [](Case& c) -> Result {
-       const bool longer = c.start >= 0 && c.start < c.Size();
-       c.text.resize(longer ? c.start : c.text.size());
-       return longer;
-     },
-     {ZR_GIVES(c.m->Truncate(c.start))}, {ZR_FLAG(ZRMutableStringTruncate(c.M(), c.start, &flag))}},
-    {"Trim", kEdit, ZR_TEXT(Trimmed(c.text)), {ZR_EDIT(Trim())},
+     ZR_IS(c.t.start >= 0 && c.t.start < c.Size() ? (c.t.text.resize(c.t.start), 1) : 0),
+     {ZR_IS(c.m->Truncate(c.t.start))},
+     {ZR_FLAG(ZRMutableStringTruncate(c.M(), c.t.start, &c.flag))}},
+    {"Trim", kEdit, ZR_TEXT(Trimmed(c.t.text)), {ZR_EDIT(Trim())},
      {ZR_DONE(ZRMutableStringTrim(c.M()))}},
-    {"Reverse", kEdit, ZR_TEXT(Spliced(c, c.own, Text(c.own.rbegin(), c.own.rend()))),
+    {"Reverse", kEdit, ZR_TEXT(Spliced(c, c.t.part, Text(c.t.part.rbegin(), c.t.part.rend()))),
      {ZR_EDIT(Reverse(ZR_OWN))}, {ZR_DONE(ZRMutableStringReverse(c.M(), ZR_OWN))}},
-    {"ToUpper", kEdit, ZR_TEXT(Mapped(c.text, Upper)), {ZR_EDIT(ToUpper())},
+    {"ToUpper", kEdit, ZR_TEXT(Mapped(c.t.text, Upper)), {ZR_EDIT(ToUpper())},
      {ZR_DONE(ZRMutableStringToUpper(c.M()))}},
-    {"ToLower", kEdit, ZR_TEXT(Mapped(c.text, Lower)), {ZR_EDIT(ToLower())},
+    {"ToLower", kEdit, ZR_TEXT(Mapped(c.t.text, Lower)), {ZR_EDIT(ToLower())},
      {ZR_DONE(ZRMutableStringToLower(c.M()))}},
-    {"Extract into a mutator", kEdit, ZR_TEXT(Cut(c.eText, c.oStart, c.oLength)),
-     {ZR_DO(c.e->Extract(c.oStart, c.oLength, *c.m))}},
-    {"ExtractBetween into a mutator", kEdit, ZR_TEXT(CutBetween(c.eText, c.oStart, c.oLength)),
-     {ZR_DO(c.e->ExtractBetween(c.oStart, c.oLength, *c.m))}},
-    {"assignment of a string", kEdit, ZR_TEXT(c.shared = c.operand, c.oText),
-     {ZR_EDIT(operator=(*c.o))}},
-    {"assignment of a mutator", kEdit, ZR_TEXT(c.shared = c.editable, c.eText),
-     {ZR_EDIT(operator=(*c.e))}},
+    {"assignment", kEdit, ZR_TEXT(c.shared = c.o.slot, c.o.text),
+     {ZR_EDIT(operator=(*c.o)), ZR_EDIT(operator=(Editable(c)))}},
     {"the open buffer", kEdit, ZR_TEXT(Text(u"Zy").substr(0, c.released)),
-     {[](Case& c) -> Result {
+     {[](Case& c) -> Text {
        unsigned short* const units = c.m->GetBuffer(c.capacity);
-       const long long filled = FillBuffer(c, units, c.m->GetCapacity());
-       return c.m->ReleaseBuffer(c.released), filled;
+       const bool filled = FillBuffer(c, units, c.m->GetCapacity());
+       return c.m->ReleaseBuffer(c.released), Give(filled);
      }},
-     {[](Case& c) -> Result {
+     {[](Case& c) -> Text {
        unsigned short* units = nullptr;
        ZRMutableStringGetBufferWithCapacity(c.M(), c.capacity, &units);
        ZRMutableStringGetCapacity(c.M(), &c.number);
-       const long long filled = FillBuffer(c, units, c.number);
-       return ZRMutableStringReleaseBuffer(c.M(), c.released) == 0 ? filled : -1;
+       const bool filled = FillBuffer(c, units, c.number);
+       return Give(ZRMutableStringReleaseBuffer(c.M(), c.released) == 0 && filled);
      }}},
     {"the terminated buffer", kAttempt, ZR_DO(c.kept = true),
-     {[](Case& c) -> Result {
+     {[](Case& c) -> Text {
        const unsigned short* const units = c.m->GetTerminatedBuffer();
-       return units && Text(units, units + c.text.size() + 1) == c.text + u'\0';
+       return Give(units && Text(units, units + c.Size() + 1) == c.t.text + u'\0');
      }}},
     {"Normalize", kAttempt,
-     [](Case& c) -> Result {
+     [](Case& c) -> Text {
        const bool compatible = c.mode == kZRNormalizationNFKC || c.mode == kZRNormalizationNFKD;
-       const Text normal = AllReplaced(c.text, compatible ? u"\u00B2" : u"", u"2");
-       c.kept = normal == c.text;
-       return c.text = normal, !c.kept;
+       const Text normal = AllReplaced(c.t.text, compatible ? u"\u00B2" : u"", u"2");
+       c.kept = normal == c.t.text;
+       return c.t.text = normal, Give(!c.kept);
      },
-     {ZR_GIVES(c.m->Normalize(static_cast<ZRStringNormalizationMode>(c.mode)))}},
-    {"a string record", kEdit, ZR_TEXT(c.kept = c.oText.empty(), c.kept ? c.text : c.oText),
-     {ZR_GIVES(PassedOn([&](auto& s) { s << *c.o; }, [&](auto& s) { s >> *c.m; }))}},
+     {ZR_IS(c.m->Normalize(static_cast<ZRStringNormalizationMode>(c.mode)))}},
+    {"a string record", kEdit, ZR_TEXT(c.kept = c.o.text.empty(), c.kept ? c.t.text : c.o.text),
+     {ZR_IS(PassedOn([&](auto& s) { s << *c.o; }, [&](auto& s) { s >> *c.m; }))}},
 
-    {"a string of units", kMake, ZR_TEXT(c.part),
-     {ZR_MAKE_EITHER(ZR_RAW), ZR_MAKE_EITHER(Record(c))},
-     {ZR_MADE_EITHER(CreateFromUniChars, ZR_RAW)}},
-    {"a string of a prefix of units", kMakeString, ZR_TEXT(c.part),
-     {ZR_MAKE(ZRString, Pattern(c), c.raw.length)}},
-    {"a string of a terminated text", kMakeString, ZR_TEXT(c.z.text),
-     {ZR_MAKE(ZRString, c.z.units)},
-     {ZR_MADE(ZRStringCreateFromUniChars(c.z.units, 0, -1, &c.newString))}},
-    {"a string of bytes", kMake, ZR_TEXT(c.decoded),
-     {ZR_MAKE_EITHER(c.bytes, c.byteStart, c.byteLength),
-      ZR_MAKE_EITHER(Bytes(c), c.byteStart, c.byteLength)},
-     {ZR_MADE_EITHER(CreateFromCString, c.bytes, c.byteStart, c.byteLength),
-      ZR_MADE_EITHER(CreateFromLocalString, Bytes(c), c.byteStart, c.byteLength)}},
-    {"a copy", kMake, ZR_TEXT(c.shared = c.operand, c.oText),
-     {ZR_MAKE_EITHER(*c.o), ZR_MAKE_EITHER(c.O())}, {ZR_MADE_EITHER(CreateCopy, c.O())}},
-    {"a copy of a mutator", kMake, ZR_TEXT(c.shared = c.editable, c.eText),
-     {ZR_MAKE_EITHER(*c.e), ZR_MAKE_EITHER(c.E())}},
-    {"a prefix", kMakeString, ZR_TEXT(ShareWhole(c, 0), Cut(c.oText, 0, c.oLength)),
-     {ZR_MAKE(ZRString, *c.o, c.oLength)}},
-    {"a range", kMake, ZR_TEXT(ShareWhole(c, c.oStart), c.part), {ZR_MAKE_EITHER(ZR_SRC)},
-     {ZR_MADE_EITHER(CreateCopyRange, ZR_HANDLE)}},
-    {"an empty mutator", kMakeMutable, ZR_TEXT(Text()),
-     {[](Case& c) -> Result { return c.made.reset(new ZRStringMutator), 1; }},
-     {ZR_MADE(ZRMutableStringCreateEmpty(&c.newMutable))}},
-    {"a sum", kSum, ZR_TEXT(c.oText + c.pText),
-     {ZR_MAKE(ZRStringMutator, ZRStringMutator(*c.o) + *c.p)},
-     {ZR_MADE(ZRMutableStringAddStrings(c.O(), NewWhole(c), &c.newMutable))}},
-    {"string + unit", kSum, ZR_TEXT(c.oText + Unit(c)),
-     {ZR_MAKE(ZRStringMutator, *c.o + c.unit)}},
-    {"unit + string", kSum, ZR_TEXT(Unit(c) + c.oText),
-     {ZR_MAKE(ZRStringMutator, c.unit + *c.o)}},
+    {"a string of units", kMake, ZR_TEXT(c.o.part),
+     {ZR_MAKE(ZR_RAW), ZR_MAKE(Record(c)), ZR_MAKE(ZRString(Pattern(c), c.raw.length)),
+      ZR_MAKE(ZRString(Terminated(c)))},
+     {ZR_MADE(CreateFromUniChars, ZR_RAW),
+      ZR_DONE(Made(c, c.m ? ZRMutableStringCreateFromUniChars(ZR_RAW, &c.newMutable)
+                          : ZRStringCreateFromUniChars(Terminated(c), 0, -1, &c.newString)))}},
+    {"a string of bytes", kMake, ZR_TEXT(c.bytes.part), {ZR_MAKE(ZR_CHARS), ZR_MAKE(ZR_BYTES)},
+     {ZR_MADE(CreateFromCString, ZR_CHARS), ZR_MADE(CreateFromLocalString, ZR_BYTES)}},
+    {"a copy", kMake, ZR_TEXT(c.shared = c.o.slot, c.o.text),
+     {ZR_MAKE(*c.o), ZR_MAKE(c.o.Handle()), ZR_MAKE(Editable(c)),
+      ZR_MAKE(Editable(c).GetZRMutableStringRef())},
+     {ZR_MADE(CreateCopy, c.o.Handle())}},
+    {"a range", kMake, ZR_TEXT(RangeOf(c)), {ZR_MAKE(ZR_SRC), ZR_MAKE(ZRString(*c.o, Prefix(c)))},
+     {ZR_MADE(CreateCopyRange, ZR_HANDLE)}},
+    {"an empty string", kMake, ZR_TEXT(u""),
+     {ZR_MAKE(ZRStringMutator()), ZR_MAKE(static_cast<ZRStringRef__*>(nullptr))},
+     {ZR_DONE(Made(c, c.m ? ZRMutableStringCreateEmpty(&c.newMutable)
+                          : ZRStringCreateFromCString("", 0, 0, &c.newString)))}},
+    {"a sum", kSum, ZR_TEXT(c.o.text + c.p.text),
+     {ZR_MAKE(ZRStringMutator(*c.o) + *c.p), ZR_MAKE(*c.o + Unit(c, c.p.text)),
+      ZR_MAKE(Unit(c, c.o.text) + (c.p = c.e, *c.e))},
+     {ZR_DONE(Made(c, ZRMutableStringAddStrings(c.o.Handle(), c.p.Handle(), &c.newMutable)))}},
 
     {"an entry", kQuery,
-     [](Case& c) -> Result {
-       if (c.entries.empty())
-         return Text(12, u'?');
-       return Inside(c) ? c.entries[c.index] : c.entries.back();
-     },
-     {ZR_GIVES(EntryText([&] { return c.a->GetString(c.index); })),
-      ZR_GIVES(EntryText([&] { return (*c.a)[c.index]; })),
-      ZR_GIVES(EntryText([&] { return static_cast<const ZRStringPtrArray&>(*c.a)[c.index]; }))},
-     {[](Case& c) -> Result {
+     ZR_IS(c.entries.empty() ? Text(12, u'?')
+           : Inside(c)       ? c.entries[c.index]
+                             : c.entries.back()),
+     {ZR_IS(EntryText([&] { return c.a->GetString(c.index); })),
+      ZR_IS(EntryText([&] { return (*c.a)[c.index]; })),
+      ZR_IS(EntryText([&] { return static_cast<const ZRStringPtrArray&>(*c.a)[c.index]; }))},
+     {[](Case& c) -> Text {
        const ZRLong status = GetZRStringRefAt(c.A(), c.index, &c.newString);
        return status == 0 ? TextOf(GetZRStringFromRef(c.newString)) : Text(status, u'?');
      }}},
-    {"the size", kQuery, ZR_GIVES(static_cast<long long>(c.entries.size())),
-     {ZR_GIVES(c.a->Size()), ZR_GIVES(c.a->End() - c.a->Begin())},
-     {[](Case& c) -> Result {
-       ZRULong size = 9;
-       return ZRStringPtrArraySize(c.A(), &size) == 0 ? size : -1LL;
-     }}},
-    {"emptiness", kQuery, ZR_GIVES(c.entries.empty()), {ZR_GIVES(c.a->Empty())},
-     {ZR_FLAG(ZRStringPtrArrayIsEmpty(c.A(), &flag))}},
-    {"SetString", kArray, ZR_GIVES(Inside(c) ? c.entries[c.index] = c.oText, 1 : 0),
+    {"the size", kQuery, ZR_IS(c.entries.size()),
+     {ZR_IS(c.a->Size()), ZR_IS(c.a->End() - c.a->Begin())},
+     {ZR_IS(ZRStringPtrArraySize(c.A(), reinterpret_cast<ZRULong*>(&c.number)) == 0 ? c.number
+                                                                                   : -1)}},
+    {"emptiness", kQuery, ZR_IS(c.entries.empty()), {ZR_IS(c.a->Empty())},
+     {ZR_FLAG(ZRStringPtrArrayIsEmpty(c.A(), &c.flag))}},
+    {"SetString", kArray, ZR_IS(Inside(c) ? (c.entries[c.index] = c.o.text, 1) : 0),
      {ZR_STORED(Replacing, c.a->SetString(c.index, entry))},
      {ZR_STORED(Replacing, SetZRStringRefAt(c.A(), c.index, entry->GetZRStringRef()) == 0)}},
     {"Insert into the array", kArray,
-     ZR_GIVES(Inside(c) ? c.entries.insert(c.entries.begin() + c.index, c.oText), 1 : 0),
+     ZR_IS(Inside(c) ? (c.entries.insert(c.entries.begin() + c.index, c.o.text), 1) : 0),
      {ZR_STORED(Stored, c.a->Insert(c.index, entry))},
      {ZR_STORED(Stored, InsertZRStringRefAt(c.A(), c.index, entry->GetZRStringRef()) == 0)}},
-    {"PushBack", kArray, ZR_DO(c.entries.push_back(c.oText)),
+    {"PushBack", kArray, ZR_DO(c.entries.push_back(c.o.text)),
      {ZR_STORED(Stored, (c.a->PushBack(entry), true))},
      {ZR_STORED(Stored, ZRStringPtrArrayPushBack(c.A(), entry->GetZRStringRef()) == 0)}},
-    {"Erase", kArray, ZR_GIVES(Inside(c) ? c.entries.erase(c.entries.begin() + c.index), 1 : 0),
-     {ZR_GIVES(Dropped(c).reset(), c.a->Erase(c.index), Inside(c))},
-     {ZR_GIVES(Dropped(c).reset(), ZRStringPtrArrayErase(c.A(), c.index) == 0)}},
+    {"Erase", kArray, ZR_IS(Inside(c) ? (c.entries.erase(c.entries.begin() + c.index), 1) : 0),
+     {ZR_IS((Dropped(c).reset(), c.a->Erase(c.index), Inside(c)))},
+     {ZR_IS((Dropped(c).reset(), ZRStringPtrArrayErase(c.A(), c.index) == 0))}},
     {"DeleteAll", kArray, ZR_DO(c.entries.clear()), {ZR_DO(c.a->DeleteAll())},
      {ZR_DONE(ZRStringPtrArrayDeleteAll(c.A()))}},
-    {"a copy of the array", kArray, [](Case&) -> Result { return 1; },
-     {[](Case& c) -> Result {
+    {"a copy of the array", kArray, [](Case&) -> Text { return Give(1); },
+     {[](Case& c) -> Text {
         ZRStringPtrArray copy(*c.a);
-        return SameEntries(c, copy);
+        return Give(SameEntries(c, copy));
       },
-      [](Case& c) -> Result {
+      [](Case& c) -> Text {
         ZRStringPtrArray copy;
-        copy.PushBack(c.s);
+        copy.PushBack(&*c.t);
         copy = *c.a;
-        return SameEntries(c, copy);
+        return Give(SameEntries(c, copy));
       }},
-     {[](Case& c) -> Result {
+     {[](Case& c) -> Text {
        ZRStringPtrArrayRef__* copy = nullptr;
        if (ZRStrPtrArrCreateFromZRStrPtrArr(c.A(), &copy) == 12)
          throw std::bad_alloc();
        const bool same = SameEntries(c, *GetZRStringPtrArrayFromRef(copy));
-       return ZRStringPtrArrayDestroy(copy) == 0 && same;
+       return Give(ZRStringPtrArrayDestroy(copy) == 0 && same);
      }}},
     {"an array record", kAppend,
-     [](Case& c) -> Result {
+     [](Case& c) -> Text {
        const std::vector<Text> copy = c.entries;
-       return c.entries.insert(c.entries.end(), copy.begin(), copy.end()), 1;
+       return c.entries.insert(c.entries.end(), copy.begin(), copy.end()), Give(1);
      },
-     {ZR_GIVES(PassedOn([&](auto& s) { s << *c.a; }, [&](auto& s) { s >> *c.a; }))}},
-
+     {ZR_IS(PassedOn([&](auto& s) { s << *c.a; }, [&](auto& s) { s >> *c.a; }))}},
   };
   return operations;
 }
