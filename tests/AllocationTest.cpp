@@ -18,10 +18,6 @@
 
 namespace {
 
-constexpr int kFresh = 0xA5;  // what memory holds before it is written
-
-Memory ownMemory;  // of operator new
-
 /// The number of allocations that a call makes.
 template <typename Call>
 long Allocations(Call call) {
@@ -29,24 +25,6 @@ long Allocations(Call call) {
   call();
   return ownMemory.allocations - before;
 }
-
-}  // namespace
-
-// The library's allocations reach these as the process's one operator new; a DLL's, where it
-// imports one.
-void* operator new(std::size_t size) {
-  if (void* const memory = ownMemory.Allocate(size))
-    return std::memset(memory, kFresh, size);
-  throw std::bad_alloc();
-}
-
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { ownMemory.Free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { ownMemory.Free(memory); }
-void operator delete[](void* memory) noexcept { ownMemory.Free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { ownMemory.Free(memory); }
-
-namespace {
 
 class Allocation : public testing::Test {
  protected:

@@ -1,5 +1,4 @@
-// Guards the handle functions: every status, what each calls, and that a refused call changes
-// nothing.
+// Every status of every handle function, and which of a string's own operations they reach.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
@@ -7,7 +6,6 @@
 #include <ZRString/ZRStringStream.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -25,123 +23,100 @@ namespace {
 using Word = std::uintptr_t;
 
 /// A handle function with the types of its parameters taken away.
-struct Function {
-  std::size_t parameters;
-  std::function<ZRLong(const Word*)> call;
-};
+using Function = std::function<ZRLong(const std::vector<Word>&)>;
 
 template <typename... Types, std::size_t... Index>
-ZRLong CallWith(ZRLong (*function)(Types...), const Word* words, std::index_sequence<Index...>) {
-  // A C cast is both the static and the reinterpreting one.
-  return function((Types)(words[Index])...);
+Function Erased(ZRLong (*function)(Types...), std::index_sequence<Index...>) {
+  return [function](const std::vector<Word>& words) {
+    EXPECT_EQ(words.size(), sizeof...(Types));
+    return function((Types)(words[Index])...);  // the static or the reinterpreting cast
+  };
 }
 
 template <typename... Types>
 Function Erased(ZRLong (*function)(Types...)) {
-  return {sizeof...(Types), [function](const Word* words) {
-            return CallWith(function, words, std::index_sequence_for<Types...>());
-          }};
+  return Erased(function, std::index_sequence_for<Types...>());
 }
-
-/// A parameter: a valid argument, the invalid ones, and the status then.
-struct Parameter {
-  Word valid;
-  std::vector<Word> invalid;
-  ZRLong status = 0;  // 0: 3 + position
-};
 
 Word W(int value) { return static_cast<Word>(value); }
 Word W(const volatile void* pointer) { return reinterpret_cast<Word>(pointer); }
 
-struct Row {
+/// A parameter: a valid argument, the invalid ones, and the status then if not by its position.
+struct Parameter {
+  Word valid;
+  std::vector<Word> invalid;
+  ZRLong status = 0;
+};
+
+const struct {
   const char* name;  // of the plain function
   Function plain, member;
   const char* parameters;  // their kinds
-};
-
+} kRows[] = {
 #define ZR_ROW(name, member, parameters) {#name, Erased(&::name), Erased(&member), parameters},
 #define ZR_IMMUTABLE(name, ...) ZR_ROW(name, ZRAccessorStringDKInterfaceImpl::name, __VA_ARGS__)
 #define ZR_MUTABLE(name, ...) ZR_ROW(name, ZRMutableStringDKInterfaceImpl::name, __VA_ARGS__)
 #define ZR_ARRAY(name, member, ...) ZR_ROW(name, ZRStringCDKInterfaceImpl::member, __VA_ARGS__)
-
-const Row kRows[] = {
 #include "HandleRows.inc"
 };
 
-class Statuses : public testing::Test {
- protected:
-  Statuses() {
-    array.PushBack(&string);
-    std::fill(std::begin(out), std::end(out), untouched);
-  }
+}  // namespace
 
-  /// Makes each parameter invalid in turn, alone and together with all later ones.
-  void Check(const Function& function, const std::vector<const Parameter*>& parameters,
-             bool nullStringIs5) {
-    for (std::size_t position = 0; position < parameters.size(); ++position) {
-      for (const Word value : parameters[position]->invalid) {
-        for (const bool alone : {true, false}) {
-          std::vector<Word> words;
-          for (const Parameter* const each : parameters)
-            words.push_back(alone || words.size() < position || each->invalid.empty()
-                                ? each->valid
-                                : each->invalid[0]);
-          words[position] = value;
-          SCOPED_TRACE(testing::Message()
-                       << "parameter " << position + 1 << (alone ? "" : " and all later ones"));
-          const ZRLong byPosition =
-              nullStringIs5 && position == 2 ? 5 : static_cast<ZRLong>(position) + 4;
-          const ZRLong status = parameters[position]->status;
-          EXPECT_EQ(function.call(words.data()), status ? status : byPosition);
-          EXPECT_EQ(std::count(std::begin(out), std::end(out), untouched), std::end(out) - out);
-          EXPECT_EQ(TextOf(string), u"abc");
-          EXPECT_EQ(TextOf(mutableString), u"abc");
-          EXPECT_EQ(array.Size(), 1u);
-        }
-      }
-    }
-  }
-
-  static constexpr Word untouched = 0x5A5A5A5A;
-  Word out[4];  // what every out-parameter points to
+// Each parameter is invalid in turn, alone and together with all later ones.
+TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
+  const Word untouched = 0x5A5A5A5A;
+  const std::vector<Word> before(4, untouched);
+  std::vector<Word> out = before;  // what every out-parameter points to
   ZRString string = Make(u"abc");
-  ZRStringMutator mutableString{string};
+  ZRStringMutator mutableString(string);
   ZRStringPtrArray array;
-
+  array.PushBack(&string);
   const std::map<std::string, Parameter> kinds = {
       {"string", {W(&string), {0}}},
       {"mutable", {W(&mutableString), {0}}},
       {"array", {W(&array), {0}}},
       {"units", {W(string.GetBuffer()), {0}}},
       {"bytes", {W("abc"), {0}}},
-      {"out", {W(out), {0}}},
+      {"out", {W(out.data()), {0}}},
       {"notNegative", {W(0), {W(-1), W(-2), W(INT_MIN)}}},
       {"toEnd", {W(-1), {W(-2), W(INT_MIN)}}},
       {"count", {W(1), {W(0), W(-1), W(INT_MIN)}}},
       {"index", {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, 12}},
-      {"any", {W(0), {}}},
+      {"any", {W(-7), {}}},
   };
-};
-
-}  // namespace
-
-TEST_F(Statuses, TheFirstInvalidParameterCountsAndNothingIsWritten) {
   std::set<std::string> names;
-  for (const Row& row : kRows) {
+  for (const auto& row : kRows) {
     names.insert(row.name);
     std::istringstream words(row.parameters);
-    std::vector<const Parameter*> parameters;
+    std::vector<Parameter> parameters;
     for (std::string kind; words >> kind;)
-      parameters.push_back(&kinds.at(kind));
-    ASSERT_EQ(parameters.size(), row.plain.parameters) << row.name;
-    SCOPED_TRACE(row.name);
-    Check(row.plain, parameters, row.name == std::string("InsertZRStringRefAt"));
-    SCOPED_TRACE("the member");
-    Check(row.member, parameters, false);
+      parameters.push_back(kinds.at(kind));
+    std::vector<Word> valid, invalid;
+    for (const Parameter& each : parameters) {
+      valid.push_back(each.valid);
+      invalid.push_back(each.invalid.empty() ? each.valid : each.invalid[0]);
+    }
+    for (std::size_t position = 0; position < parameters.size(); ++position) {
+      for (const Word value : parameters[position].invalid) {
+        for (const auto& others : {valid, invalid}) {
+          SCOPED_TRACE(testing::Message() << row.name << ", parameter " << position + 1);
+          std::vector<Word> arguments(valid.begin(), valid.begin() + position);
+          arguments.push_back(value);
+          arguments.insert(arguments.end(), others.begin() + position + 1, others.end());
+          const ZRLong otherwise = parameters[position].status;
+          const ZRLong status = otherwise ? otherwise : static_cast<ZRLong>(position) + 4;
+          const bool differs = position == 2 && row.name == std::string("InsertZRStringRefAt");
+          EXPECT_EQ(row.plain(arguments), differs ? 5 : status);
+          EXPECT_EQ(row.member(arguments), status);
+          EXPECT_EQ(out, before);
+          EXPECT_EQ(TextOf(string) + TextOf(mutableString), u"abcabc");
+          EXPECT_EQ(array.Size(), 1u);
+        }
+      }
+    }
   }
   std::ifstream list(ZRSTRING_PLAIN_EXPORTS);
-  const std::set<std::string> exported{std::istream_iterator<std::string>(list), {}};
-  EXPECT_EQ(names, exported);
+  EXPECT_EQ(names, std::set<std::string>(std::istream_iterator<std::string>(list), {}));
 }
 
 namespace {

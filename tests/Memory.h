@@ -1,4 +1,4 @@
-// ICU's memory under a test's control: what it holds is counted, and an allocation may fail.
+// Memory under a test's control: what is held is counted, and an allocation may fail.
 #ifndef ZRSTRING_TESTS_MEMORY_H
 #define ZRSTRING_TESTS_MEMORY_H
 
@@ -37,6 +37,9 @@ struct Memory {
   bool failsOnce = false, failed = false;
 };
 
+constexpr int kFresh = 0xA5;  // what operator new's memory holds before it is written
+
+extern Memory ownMemory;  // of operator new
 inline Memory icuMemory;
 
 inline void TakeIcuMemory() {

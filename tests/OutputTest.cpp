@@ -1,3 +1,4 @@
+// Strings in standard streams of code units: width, fill and adjustment, states, without a locale.
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
 #include <gtest/gtest.h>
@@ -10,51 +11,45 @@
 namespace {
 
 using Stream = std::basic_ostringstream<unsigned short>;
+using Base = std::basic_ostream<unsigned short>;
 
-std::u16string Written(const Stream& stream) {
+Text Written(const Stream& stream) {
   const auto units = stream.str();
-  return std::u16string(units.begin(), units.end());
+  return Text(units.begin(), units.end());
 }
 
 }  // namespace
 
 TEST(Output, WidthFillAndAdjustment) {
   const struct {
-    const char* name;
-    std::u16string text;
-    std::streamsize width;
-    bool left;
-    std::u16string expected;
+    Text text;
+    int width;
+    Text expected, leftExpected;
   } rows[] = {
-      {"plain", u"abc", 0, false, u"abc"},
-      {"padded", u"abc", 6, false, u"***abc"},
-      {"padded right", u"abc", 6, true, u"abc***"},
-      {"too narrow", u"abc", 2, false, u"abc"},
-      {"empty", u"", 0, false, u""},
-      {"empty, padded", u"", 3, false, u"***"},
-      {"up to the zero unit", std::u16string(u"a\0b", 3), 3, false, u"**a"},
-      {"above Latin-1", u"\u20AC\U0001F600", 4, false, u"*\u20AC\U0001F600"},
+      {u"abc", 0, u"abc", u"abc"},
+      {u"abc", 6, u"***abc", u"abc***"},
+      {u"abc", 2, u"abc", u"abc"},
+      {u"", 0, u"", u""},
+      {u"", 3, u"***", u"***"},
+      {Text(u"a\0b", 3), 3, u"**a", u"a**"},
+      {u"\u20AC\U0001F600", 4, u"*\u20AC\U0001F600", u"\u20AC\U0001F600*"},
+  };
+  Base& (*const inserters[])(Stream&, const ZRString&) = {
+      [](Stream& stream, const ZRString& s) -> Base& { return SerializeBasicStream(s, stream); },
+      [](Stream& stream, const ZRString& s) -> Base& { return static_cast<Base&>(stream) << s; },
+      [](Stream& stream, const ZRString& s) -> Base& { return stream << s; },
   };
   for (const auto& row : rows) {
-    SCOPED_TRACE(row.name);
-    Stream stream;
-    std::basic_ostream<unsigned short>& base = stream;
-    base.fill('*');
-    for (int form = 0; form < 3; ++form) {
-      stream.str({});
-      stream.width(row.width);
-      row.left ? stream.setf(std::ios::left, std::ios::adjustfield)
-               : stream.setf({}, std::ios::adjustfield);
-      const ZRStringMutator string(Make(row.text));
-      if (form == 0)
-        EXPECT_EQ(&SerializeBasicStream(string, stream), &base);
-      else if (form == 1)
-        EXPECT_EQ(&(base << string), &base);
-      else
-        EXPECT_EQ(&(stream << string), &stream);
-      EXPECT_TRUE(stream.good());
-      EXPECT_EQ(Written(stream), row.expected);
-      EXPECT_EQ(stream.width(), 0);
+    for (const bool left : {false, true}) {
+      for (const auto inserter : inserters) {
+        Stream stream;
+        stream << std::setw(row.width) << (left ? std::left : std::right);
+        stream.fill('*');
+        EXPECT_EQ(&inserter(stream, ZRStringMutator(Make(row.text))), &stream);
+        EXPECT_TRUE(stream.good());
+        EXPECT_EQ(Written(stream), left ? row.leftExpected : row.expected);
+        EXPECT_EQ(stream.width(), 0);
+      }
     }
   }
 }
@@ -89,10 +84,10 @@ TEST(Output, FailuresStandInTheState) {
 
   struct Refusing : std::basic_streambuf<unsigned short> {
   } full;
-  std::basic_ostream<unsigned short> refused(&full);
+  Base refused(&full);
   refused << Make(u"abc");
   EXPECT_TRUE(refused.bad());
-  std::basic_ostream<unsigned short> throwing(&full);
+  Base throwing(&full);
   throwing.exceptions(std::ios::badbit);
   EXPECT_THROW(throwing << Make(u"abc"), std::ios_base::failure);
 }

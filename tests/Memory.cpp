@@ -1,0 +1,19 @@
+// The process's operator new, which the library's allocations reach; a DLL's, where it imports one.
+#include "Memory.h"
+
+#include <cstring>
+#include <new>
+
+Memory ownMemory;
+
+void* operator new(std::size_t size) {
+  if (void* const memory = ownMemory.Allocate(size))
+    return std::memset(memory, kFresh, size);
+  throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete(void* memory) noexcept { ownMemory.Free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { ownMemory.Free(memory); }
+void operator delete[](void* memory) noexcept { ownMemory.Free(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { ownMemory.Free(memory); }
