@@ -46,8 +46,7 @@ class MemoryStream : public Velmar::IStream {
  private:
   template <typename Value>
   void Put(const Value* value) {
-    const auto* const bytes = reinterpret_cast<const char*>(value);
-    bytes_.insert(bytes_.end(), bytes, bytes + sizeof *value);
+    bytes_.append(reinterpret_cast<const char*>(value), sizeof *value);
   }
 
   template <typename Value>
@@ -56,7 +55,7 @@ class MemoryStream : public Velmar::IStream {
     place_ += sizeof *value;
   }
 
-  std::vector<char> bytes_;
+  std::string bytes_;
   std::size_t place_ = 0;
 };
 
