@@ -1,25 +1,21 @@
 # shellcheck shell=bash
 # Sourced by scripts that try something on a bare Debian system, after tools/steps.sh and with the
-# project's folder in $top. They must run as root and have debootstrap. $work is a scratch folder.
+# project's folder in $top. They must run as root. $work is a scratch folder.
 
 : "${top:?}"
 [ "$(id -u)" -eq 0 ] || die "must be run as root"
-command -v debootstrap > /dev/null || die "debootstrap is not installed"
+"$top/tools/install-packages.sh" debian-archive-keyring mmdebstrap
 work=$(mktemp -d "${TMPDIR:-/var/tmp}/zrstring.XXXXXX")
 chmod 755 "$work"
 trap 'rm -rf --one-file-system "$work"' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# make_debian CODENAME FOLDER [OPTION...]: a system of essential packages and apt in FOLDER.
+# make_debian CODENAME FOLDER: a system of essential packages and apt in FOLDER.
 make_debian() {
-  local codename=$1 root=$2
-  shift 2
-  unshare --mount --propagation private debootstrap --variant=minbase "$@" \
-    --keyring=/usr/share/keyrings/debian-archive-keyring.gpg \
-    "$codename" "$root" "$("$top/tools/debian-mirror")"
-  apt-config dump Acquire | grep -E '^Acquire::(https?::|Check-|Retries)' \
-    > "$root/etc/apt/apt.conf.d/90acquire" || true
+  apt-config dump Acquire | grep -E '^Acquire::(https?::|Check-|Retries)' > "$work/apt.conf" || true
+  mmdebstrap --mode=root --variant=minbase --aptopt="$work/apt.conf" \
+    --keyring=/usr/share/keyrings/debian-archive-keyring.gpg "$1" "$2" "$("$top/tools/debian-mirror")"
 }
 
 # in_debian FOLDER COMMAND...: runs COMMAND in that system. What is mounted for it exists only in its
