@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Compares what a shared library (ELF or PE) exports with what is promised, in both directions.
+# Compares the exports of a shared library (ELF or PE) with the promised ones, in both directions.
 # usage: check-exports.sh [--update] LIBRARY
 # --update writes exports-cpp.txt, from a library for Linux. exports-plain.txt is written by hand.
 set -euo pipefail
@@ -38,7 +38,7 @@ compare() {  # WHAT PROMISED ACTUAL
   fi
 }
 
-# The vector's members vary with the standard library; all are members of the one instantiation.
+# Which members of the vector there are depends on the standard library: one name stands for all.
 compare "plain names" "$here/exports-plain.txt" <(grep -v '^_Z' "$work/exported")
 grep '^_Z' "$work/exported" | c++filt |
   sed -E "s/\<unsigned $long\>/ZRULong/g; s/\<$long\>/ZRLong/g; s/__cxx11:://g" |

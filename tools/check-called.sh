@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# Fails unless an object file calls every function that a library exports, but for those that match
-# one of the patterns in a file: what is not meant to be in that file's table. Also fails for a
-# pattern that matches nothing.
+# Fails unless an object file, which holds a table of calls, calls every function that a library
+# exports, except those that match a pattern in a file. Also fails if a pattern matches nothing.
 # usage: check-called.sh LIBRARY OBJECT PATTERNS
 set -euo pipefail
 export LC_ALL=C
@@ -14,7 +13,7 @@ while read -r pattern; do
   grep -qE -- "$pattern" <<<"$missing" || { echo "$3: nothing matches '$pattern'" >&2; failed=1; }
 done <<<"$patterns"
 if grep -vE -f <(cat <<<"$patterns") <<<"$missing" >&2; then
-  echo "not called in ${2##*/}, nor listed in ${3##*/}: the functions above" >&2
+  echo "the functions above are neither called in ${2##*/} nor listed in ${3##*/}" >&2
   failed=1
 fi
 exit "${failed-0}"

@@ -1,4 +1,4 @@
-"""Reads ZRStringHandles.h, for everything that is made from it or compared with it.
+"""Reads ZRStringHandles.h for the scripts that derive something from it or compare it.
 
 functions() and enumerators() raise ValueError for a header that they cannot read or whose statuses
 do not agree with its declarations.

@@ -25,7 +25,7 @@ fi
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 
-# apt waits for dpkg's lock (DPkg::Lock::Timeout), but not for those of its own.
+# apt waits for dpkg's lock (DPkg::Lock::Timeout), but not for its own locks.
 apt_get() {
   local waiting=false
   until "${as_root[@]}" LC_ALL=C DEBIAN_FRONTEND=noninteractive \

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by the project's scripts: how they say what they do, run a command, and stop.
+# Sourced by the project's scripts: functions to print a step, run a command, and stop.
 
 # say SENTENCE...: prints what comes next, and the seconds since the script started.
 say() { printf -- '-- [%ds] %s\n' "$SECONDS" "$*"; }

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Writes what repeats the functions of ZRStringHandles.h: the three interface classes, and the
-rows of the test of all statuses.
+"""Writes the code that repeats the functions of ZRStringHandles.h: the three interface classes,
+and the rows of the test of all statuses.
 
     write-interfaces.py [--check]
 
-Run it after a change of that header and commit what it writes: include/ZRString/ZRStringInterfaces.h,
-handles/InterfaceClasses.cpp and tests/HandleRows.inc. --check only compares, and fails when they are
-out of date.
+Run it after a change of that header and commit what it writes:
+include/ZRString/ZRStringInterfaces.h, handles/InterfaceClasses.cpp and tests/HandleRows.inc. --check
+only compares, and fails if they are out of date.
 """
 
 import dataclasses
@@ -93,8 +93,8 @@ ROWS_BEGIN = """\
 // Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
 """
 
-# The kinds of argument that HandlesTest.cpp knows: of a parameter by its test, or, if the test is
-# for null, by its type.
+# The kind of argument in HandlesTest.cpp for each test of a parameter. For tests for null, the type
+# of the parameter decides.
 TESTED = {"negative": "notNegative", "below -1": "toEnd", "below 1": "count"}
 NOT_NULL = {
     "ZRStringRef__*": "string",
@@ -126,8 +126,8 @@ def lines_of(items, width):
 
 
 def listed(head, items, tail, indent, worth):
-    """head + items + tail as clang-format breaks it: aligned with the first item, or from the next
-    line on where that is the only way or saves `worth` line breaks."""
+    """head + items + tail, broken as clang-format does it: aligned with the first item, or starting
+    on the next line if nothing else fits or if that saves `worth` line breaks."""
     items = [f"{item}," for item in items[:-1]] + [items[-1] + tail]
     aligned = lines_of(items, WIDTH - len(head))
     below = lines_of(items, WIDTH - indent)

@@ -1,5 +1,5 @@
-"""Run inside GDB: prints what the rules for ZRString in the file $NATVIS, evaluated in C++, say of
-each of the locals $SAMPLES."""
+"""Runs inside GDB: evaluates the rules for ZRString in the file $NATVIS for each of the locals
+$SAMPLES, and prints the results."""
 
 import os
 import re
@@ -11,7 +11,7 @@ NAMESPACE = "{http://schemas.microsoft.com/vstudio/debugger/natvis/2010}"
 
 
 def valid(rules, sample):
-    """Those of `rules` whose conditions hold."""
+    """The rules whose conditions hold."""
     return [rule for rule in rules if int(evaluated(rule.get("Condition", "1"), sample))]
 
 

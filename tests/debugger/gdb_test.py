@@ -48,7 +48,7 @@ ARRAY = (
 
 
 def run_gdb(commands, before=(), charset="C.UTF-8", program=None, **variables):
-    """What GDB says to `commands`, given in main() of the stopped program."""
+    """GDB's output for `commands`, run in main() of the stopped program."""
     arguments = [GDB, "-q", "-nx", "-batch"]
     for command in before:
         arguments += ["-iex", command]
@@ -67,7 +67,7 @@ def run_gdb(commands, before=(), charset="C.UTF-8", program=None, **variables):
 
 
 def printed(commands, **options):
-    """What each `print` among `commands` showed, and all that GDB said."""
+    """The result of each `print` among `commands`, and all of GDB's output."""
     output = run_gdb(commands, **options)
     return re.findall(r"^\$\d+ = (.*)$", output, re.MULTILINE), output
 

@@ -1,4 +1,4 @@
-"""Tests of examples/python/lookup.py, which is the one argument."""
+"""Tests of examples/python/lookup.py. The argument is its path."""
 
 import os
 import subprocess

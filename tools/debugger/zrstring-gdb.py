@@ -6,12 +6,12 @@ tree: `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fields instea
 
     "text" (length 4, holders 1)        the text is cut at `set print elements`
 
-Everything is read from memory by its layout, so no debug information but the program's own is
-needed: not ICU's, and not this library's. Without the latter the classes are incomplete types to
-GDB, and GDB 13 then shows <incomplete type> in `info locals` and for arguments passed by value;
-`print` and references show the text all the same. GDB 16 shows it everywhere. So does GDB 13 once the
-library's debug information is there (package libzrstring1-dbgsym), or if the program was compiled
-with -femit-class-debug-always (GCC) or -fstandalone-debug (Clang).
+The printers read memory by its layout and need only the program's own debug information, not that
+of ICU or of this library. Without the latter, the classes are incomplete types to GDB, and GDB 13
+shows <incomplete type> in `info locals` and for arguments passed by value; `print` and references
+show the text. GDB 16 always shows the text. So does GDB 13 if the library's debug information is
+installed (package libzrstring1-dbgsym), or if the program was compiled with
+-femit-class-debug-always (GCC) or -fstandalone-debug (Clang).
 """
 
 import gdb
@@ -29,7 +29,7 @@ ESCAPES = {'"': '\\"', "\\": "\\\\", "\n": "\\n", "\r": "\\r", "\t": "\\t"}
 
 
 class NotAString(Exception):
-    """What is in memory cannot be a body, as before a constructor has run."""
+    """Raised if memory holds no body, for example before a constructor has run."""
 
 
 def byte_order():
@@ -82,8 +82,8 @@ class Body:
 
 
 def escaped(character):
-    """`character` as GDB can print it; unpaired surrogates and what GDB's character set lacks
-    become numbers."""
+    """`character` in a form that GDB can print: unpaired surrogates and characters outside GDB's
+    character set become numbers."""
     if character in ESCAPES:
         return ESCAPES[character]
     charset = gdb.host_charset() if hasattr(gdb, "host_charset") else "ascii"
@@ -97,7 +97,7 @@ def escaped(character):
 
 
 def described(address):
-    """The one line for the body at `address`."""
+    """One line that describes the body at `address`."""
     try:
         body = Body(address)
         if body.is_open:
@@ -110,7 +110,7 @@ def described(address):
 
 
 def body_of(string):
-    """The address of the body of the string at `string`; it follows the virtual table's."""
+    """The address of the body of the string at `string`: the string's second pointer."""
     return read_pointer(string + pointer_size())
 
 
@@ -125,7 +125,7 @@ class StringPrinter:
 
 
 class StringHandlePrinter:
-    """A handle is the address of the string."""
+    """For a string's handle, which is the string's address."""
 
     def __init__(self, handle):
         self.handle = int(handle)
@@ -140,9 +140,9 @@ class StringHandlePrinter:
 
 
 class ArrayPrinter:
-    """The entries, from the first two pointers of the vector that the array is: begin and end.
+    """For an array, whose vector begins with two pointers: to the first entry and behind the last.
 
-    `entry_type` is ZRString*, or None where GDB has no way to name it.
+    `entry_type` is ZRString*, or None if GDB does not know that type.
     """
 
     def __init__(self, address, entry_type=None, prefix=""):
