@@ -25,7 +25,7 @@ ZRString* EntryOrLast(ZRLong index, const std::vector<ZRString*>& strings) {
 
 }  // namespace
 
-ZRStringPtrArray::ZRStringPtrArray() = default;
+ZRStringPtrArray::ZRStringPtrArray() noexcept = default;
 
 ZRStringPtrArray::ZRStringPtrArray(const ZRStringPtrArray& other) = default;
 
@@ -33,9 +33,9 @@ ZRStringPtrArray::~ZRStringPtrArray() = default;
 
 ZRStringPtrArray& ZRStringPtrArray::operator=(const ZRStringPtrArray& other) = default;
 
-ZRULong ZRStringPtrArray::Size() const { return static_cast<ZRULong>(strings_.size()); }
+ZRULong ZRStringPtrArray::Size() const noexcept { return static_cast<ZRULong>(strings_.size()); }
 
-bool ZRStringPtrArray::Empty() const { return strings_.empty(); }
+bool ZRStringPtrArray::Empty() const noexcept { return strings_.empty(); }
 
 ZRString* ZRStringPtrArray::operator[](ZRLong index) { return EntryOrLast(index, strings_); }
 
@@ -48,7 +48,7 @@ ZRString* const ZRStringPtrArray::operator[](ZRLong index) const {
 
 ZRString* ZRStringPtrArray::GetString(ZRLong index) { return EntryOrLast(index, strings_); }
 
-bool ZRStringPtrArray::SetString(ZRLong index, ZRString* const string) {
+bool ZRStringPtrArray::SetString(ZRLong index, ZRString* const string) noexcept {
   if (!IsInside(index, strings_))
     return false;
   strings_[index] = string;
@@ -64,33 +64,37 @@ bool ZRStringPtrArray::Insert(ZRLong index, ZRString* const string) {
 
 void ZRStringPtrArray::PushBack(ZRString* const string) { strings_.push_back(string); }
 
-void ZRStringPtrArray::Erase(ZRLong index) {
+void ZRStringPtrArray::Erase(ZRLong index) noexcept {
   if (IsInside(index, strings_))
     strings_.erase(strings_.begin() + index);
 }
 
 std::vector<ZRString*>::iterator ZRStringPtrArray::Erase(
-    std::vector<ZRString*>::iterator position) {
+    std::vector<ZRString*>::iterator position) noexcept {
   return strings_.erase(position);
 }
 
-void ZRStringPtrArray::EraseAll() { strings_.clear(); }
+void ZRStringPtrArray::EraseAll() noexcept { strings_.clear(); }
 
-void ZRStringPtrArray::DeleteAll() {
+void ZRStringPtrArray::DeleteAll() noexcept {
   for (ZRString* const string : strings_)
     delete string;
   strings_.clear();
 }
 
-std::vector<ZRString*>::iterator ZRStringPtrArray::Begin() { return strings_.begin(); }
+std::vector<ZRString*>::iterator ZRStringPtrArray::Begin() noexcept { return strings_.begin(); }
 
-std::vector<ZRString*>::iterator ZRStringPtrArray::End() { return strings_.end(); }
+std::vector<ZRString*>::iterator ZRStringPtrArray::End() noexcept { return strings_.end(); }
 
-std::vector<ZRString*>::const_iterator ZRStringPtrArray::Begin() const { return strings_.begin(); }
+std::vector<ZRString*>::const_iterator ZRStringPtrArray::Begin() const noexcept {
+  return strings_.begin();
+}
 
-std::vector<ZRString*>::const_iterator ZRStringPtrArray::End() const { return strings_.end(); }
+std::vector<ZRString*>::const_iterator ZRStringPtrArray::End() const noexcept {
+  return strings_.end();
+}
 
-ZRStringPtrArrayRef__* ZRStringPtrArray::GetZRStringPtrArrayRef() {
+ZRStringPtrArrayRef__* ZRStringPtrArray::GetZRStringPtrArrayRef() noexcept {
   return reinterpret_cast<ZRStringPtrArrayRef__*>(this);
 }
 

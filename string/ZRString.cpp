@@ -1,6 +1,5 @@
 #include <ZRString/ZRString.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -19,7 +18,7 @@ template <typename Character>
 ZRLong TerminatedLength(const Character* text) {
   const std::size_t length = std::char_traits<Character>::length(text);
   if (length > INT32_MAX)
-    throw std::bad_alloc();
+    ThrowBadAlloc();
   return static_cast<ZRLong>(length);
 }
 
@@ -32,6 +31,8 @@ ZRLong TerminatedLength(const Character* text) {
 }
 
 }  // namespace
+
+void ThrowBadAlloc() { throw std::bad_alloc(); }
 
 ZRString::ZRString() { CreateNewImplementation(); }
 
@@ -115,66 +116,7 @@ void ZRString::CopyOnWrite() {
     body_ = PrivateCopyOf(body_);
 }
 
-ZRLong ZRString::Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
-                      ZRLong start, ZRLong length) const {
-  return TextOf(body_).indexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength), start,
-                               Resolved(length));
-}
-
-ZRLong ZRString::Find(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
-                      ZRLong start, ZRLong length) const {
-  return TextOf(body_).indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
-                               Resolved(length));
-}
-
-ZRLong ZRString::RFind(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
-                       ZRLong start, ZRLong length) const {
-  return TextOf(body_).lastIndexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength),
-                                   start, Resolved(length));
-}
-
-ZRLong ZRString::RFind(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
-                       ZRLong start, ZRLong length) const {
-  return TextOf(body_).lastIndexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
-                                   Resolved(length));
-}
-
-ZRLong ZRString::LastIndexOf(unsigned short unit) const {
-  return TextOf(body_).lastIndexOf(static_cast<char16_t>(unit));
-}
-
-unsigned short ZRString::CharAt(ZRLong index) const { return TextOf(body_).charAt(index); }
-
-unsigned short ZRString::operator[](ZRLong index) const { return TextOf(body_).charAt(index); }
-
-ZRLong ZRString::GetLength() const { return TextOf(body_).length(); }
-
-unsigned char ZRString::IsEmpty() const { return TextOf(body_).isEmpty(); }
-
-const unsigned short* ZRString::GetBuffer() const { return FromIcu(TextOf(body_).getBuffer()); }
-
-void ZRString::Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const {
-  // As unsigned numbers, a negative start lies past the end and a length of -1 does too.
-  const std::uint32_t whole = TextOf(body_).length();
-  const std::uint32_t first = start;
-  if (first > whole || length < kZRToEnd)
-    return;
-  const std::uint32_t count = std::min<std::uint32_t>(length, whole - first);
-  (dst + dstStart)[count] = 0;
-  TextOf(body_).extract(start, count, ToIcu(dst), dstStart);
-}
-
-void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
-                              ZRLong dstStart) const {
-  const ZRLong whole = TextOf(body_).length();
-  const ZRLong limit = end < whole ? end + 1 : whole;
-  if (start < 0 || start > limit)
-    return;
-  (dst + dstStart)[limit - start] = 0;
-  TextOf(body_).extractBetween(start, limit, ToIcu(dst), dstStart);
-}
-
-ZRStringRef__* ZRString::GetZRStringRef() const { return HandleOf(this); }
+ZRStringRef__* ZRString::GetZRStringRef() const noexcept { return HandleOf(this); }
 
 const ZRString& GetZRStringFromRef(ZRStringRef__* handle) { return StringOf(handle); }
 

@@ -4,8 +4,11 @@
 #include <ZRString/ZRString.h>
 #include <unicode/unistr.h>
 
-#include <new>
 #include <utility>
+
+/// Throws std::bad_alloc. A function, because some files that include this one are compiled without
+/// exceptions.
+[[noreturn]] void ThrowBadAlloc();
 
 /// The body that strings share: one allocation that holds the count and the text.
 ///
@@ -25,7 +28,7 @@ struct ZRStringImplementation : ZRStringHolderCount {
     if (text.getBuffer() == source.getBuffer() && !text.isEmpty()) {
       text.setTo(source.getBuffer(), source.length());
       if (text.isBogus())
-        throw std::bad_alloc();
+        ThrowBadAlloc();
     }
   }
 
@@ -40,7 +43,7 @@ struct ZRStringImplementation : ZRStringHolderCount {
       : text(std::forward<First>(first), std::forward<Second>(second),
              std::forward<Others>(others)...) {
     if (text.isBogus())
-      throw std::bad_alloc();
+      ThrowBadAlloc();
   }
 
   ZRStringImplementation(const ZRStringImplementation&) = delete;

@@ -142,6 +142,45 @@ ZRStringMutator& ZRStringMutator::RemoveBetween(ZRLong start, ZRLong end) {
   return *this;
 }
 
+unsigned char ZRStringMutator::PadLeading(ZRLong targetLength, unsigned short padUnit) {
+  CopyOnWrite();
+  return TextOf(body_).padLeading(targetLength, padUnit);
+}
+
+unsigned char ZRStringMutator::PadTrailing(ZRLong targetLength, unsigned short padUnit) {
+  CopyOnWrite();
+  return TextOf(body_).padTrailing(targetLength, padUnit);
+}
+
+unsigned char ZRStringMutator::Truncate(ZRLong targetLength) {
+  CopyOnWrite();
+  return TextOf(body_).truncate(targetLength);
+}
+
+ZRStringMutator& ZRStringMutator::Trim() {
+  CopyOnWrite();
+  TextOf(body_).trim();
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::Reverse(ZRLong start, ZRLong length) {
+  CopyOnWrite();
+  TextOf(body_).reverse(start, Resolved(length));
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::ToUpper() {
+  CopyOnWrite();
+  TextOf(body_).toUpper();
+  return *this;
+}
+
+ZRStringMutator& ZRStringMutator::ToLower() {
+  CopyOnWrite();
+  TextOf(body_).toLower();
+  return *this;
+}
+
 const unsigned short* ZRStringMutator::GetBuffer() const { return ZRString::GetBuffer(); }
 
 void ZRStringMutator::Extract(ZRLong start, ZRLong length, unsigned short* dst,
@@ -188,18 +227,20 @@ unsigned short* ZRStringMutator::GetBuffer(ZRLong minCapacity) {
   return FromIcu(TextOf(body_).getBuffer(minCapacity));
 }
 
-void ZRStringMutator::ReleaseBuffer(ZRLong newLength) { TextOf(body_).releaseBuffer(newLength); }
+void ZRStringMutator::ReleaseBuffer(ZRLong newLength) noexcept {
+  TextOf(body_).releaseBuffer(newLength);
+}
 
-const unsigned short* ZRStringMutator::GetTerminatedBuffer() {
+const unsigned short* ZRStringMutator::GetTerminatedBuffer() noexcept {
   icu::UnicodeString& text = TextOf(body_);
   if (text.length() == text.getCapacity() && !MakeRoomForOneMore(text))
     return nullptr;
   return FromIcu(text.getTerminatedBuffer());
 }
 
-ZRLong ZRStringMutator::GetCapacity() const { return TextOf(body_).getCapacity(); }
+ZRLong ZRStringMutator::GetCapacity() const noexcept { return TextOf(body_).getCapacity(); }
 
-ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() { return HandleOf(this); }
+ZRMutableStringRef__* ZRStringMutator::GetZRMutableStringRef() noexcept { return HandleOf(this); }
 
 ZRStringMutator& GetZRStringMutatorFromRef(ZRMutableStringRef__* handle) {
   return StringOf(handle);

@@ -10,3 +10,13 @@ readme_block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d;
 road_output() {
   sed -n '/{#output}/,/{#rules}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d'
 }
+
+# header_examples: the code in the comments of the classes, as one C++ program.
+header_examples() {
+  echo '#undef NDEBUG'
+  printf '#include <%s>\n' cassert ZRString/ZRStringMutator.h ZRString/ZRStringPtrArray.h
+  echo 'int main() {'
+  sed -n '/^\/\/\/ @code$/,/^\/\/\/ @endcode$/s/^\/\/\/ \{0,1\}//p' \
+    "$top"/include/ZRString/ZRString{,Mutator,PtrArray}.h | sed 's/^@code$/{/; s/^@endcode$/}/'
+  echo '}'
+}

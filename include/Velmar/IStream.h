@@ -3,14 +3,15 @@
 
 #include <ZRString/ZRTypes.h>
 
-/// The host's binary stream interface: what a host implements to have strings and arrays saved and
-/// restored.
+/// The host application's binary stream interface. A host that saves and restores strings and
+/// arrays implements it. Velmar is the application that this library was made for; any other
+/// program can implement the interface as well.
 namespace Velmar {
 
-/// Moves values of one type between memory and a stream, one value a call.
+/// Moves values of one type between memory and a stream, one value for each call.
 ///
-/// How a value is laid out in the stream's medium is the stream's own affair. An operation that
-/// fails may throw; the exception passes through the library's operators unchanged.
+/// The stream decides how a value is encoded in its medium. An operation that fails may throw; the
+/// exception passes through the library's operators unchanged.
 template <typename Value>
 class ITransfer {
  public:
@@ -20,8 +21,8 @@ class ITransfer {
   /// Writes `*value`.
   virtual void Write(const Value* value) = 0;
 
-  /// Stores the next value in `*value`. A stream that has none may leave `*value` as it is; the
-  /// library has put 0 there.
+  /// Stores the next value in `*value`. A stream that has no more values may leave `*value`, which
+  /// the library has set to 0, unchanged.
   virtual void Read(Value* value) = 0;
 };
 

@@ -16,10 +16,10 @@ class ZRStringMutator;
 #define ZR_INLINE inline
 #endif
 
-/// The number of strings that hold a body: the first part of every body, and all that a program
-/// sees of it, so that it can copy strings without a call.
+/// The number of strings that hold a body: the first part of every body, and all of it that
+/// programs see.
 ///
-/// The number is a plain integer, 1 for a new body. The two operations are all that change it.
+/// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it.
 struct ZRStringHolderCount {
  public:
   bool IsShared() const noexcept { return count_ > 1; }  ///< Whether there is more than one holder.
@@ -30,8 +30,8 @@ struct ZRStringHolderCount {
     return this;
   }
 
-  /// Takes a holder away. Returns false, with the number as it is, if it is the last one: the body
-  /// is then to be destroyed.
+  /// Removes a holder. Returns false, with the number unchanged, for the last one, who must destroy
+  /// the body instead.
   bool GiveUpShare() noexcept {
     if (count_ < 2)
       return false;
@@ -45,204 +45,237 @@ struct ZRStringHolderCount {
 
 /// An immutable Unicode string of UTF-16 code units.
 ///
-/// **Sharing.** The units live in a reference-counted body. A copy, an assignment, a string made
-/// from a handle and a string made from the whole of another one share the body: one pointer and
-/// one addition, no allocation. The last holder frees the body. Only a ZRStringMutator changes
-/// text, and it takes a body of its own before it does, so a ZRString never changes.
+/// @code
+/// const ZRString text("copy on write", 0, kZRToEnd);
+/// const ZRString copy(text);               // shares the units
+/// const ZRString word(text, 8, kZRToEnd);  // copies those of "write"
+/// assert(copy.GetBuffer() == text.GetBuffer());
+/// assert(word.GetLength() == 5 && word.CharAt(0) == 'w');
+/// assert(text.EndsWith(word, 0, kZRToEnd));
+/// assert(text.Find(word, 0, 2, 0, kZRToEnd) == 8);    // "wr" in the whole text
+/// assert(text.CompareBetween(0, 3, word, 0, 3) < 0);  // "copy" before "writ"
+/// @endcode
+///
+/// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings made from a
+/// handle and strings made from the whole of another string share its body, which takes a pointer
+/// and an addition and no allocation. The last holder destroys the body. Only ZRStringMutator
+/// changes text, and it first gets a body of its own.
 ///
 /// **Units and ranges.** Starts, lengths and indices count UTF-16 code units. A range is a start
-/// and a length, cut to the text it refers to: a start below 0 is 0, a start past the end is the
-/// end, a negative length is 0, a length past the end stops there. Nothing is an error.
+/// and a length, clamped to the text it refers to: a start below 0 counts as 0, a start past the
+/// end as the end, a negative length as 0, and a length past the end stops at the end. No range is
+/// an error.
 ///
-/// - A length of -1 for this string or for a ZRString operand means to the end of that string.
-/// - A *raw* operand is a `const unsigned short*` with a start and a length. It is not checked:
-///   its range must be readable. A negative length means up to its terminating zero unit. A null
-///   raw operand is an empty text.
+/// - A length of -1 (#kZRToEnd) for this string or for a ZRString operand means to the end of that
+///   string.
+/// - A *raw* operand is a `const unsigned short*` with a start and a length. It is not checked: its
+///   range must be readable. A negative length means up to its terminating zero unit. A null raw
+///   operand is an empty text.
 /// - Members whose names end in `Between` take an inclusive end index instead of a length. An end
-///   at or past the last index means through the end; an end below the start is an empty range,
-///   and -1 has no other meaning there.
+///   at or past the last index means through the end, an end below the start an empty range. For
+///   them -1 is an end like any other.
 ///
 /// **Results.** Three-way comparisons give -1, 0 or +1: this string's range sorts before, equal
 /// to or after the operand's. Yes/no queries give 1 or 0.
 ///
-/// **Errors.** Constructors and CopyOnWrite() allocate. They deliver the whole text or throw
-/// `std::bad_alloc`: for want of memory, the library's or ICU's, and for a text longer than ICU can
-/// hold (some 2^31 units). No query throws. Collated comparison (option 3 of ICompare()) also
-/// allocates inside ICU; what fails there is not reported.
+/// **Errors.** A constructor that makes a body of its own, and CopyOnWrite(), deliver the whole
+/// text or throw `std::bad_alloc`: when the library or ICU runs out of memory, and for a text
+/// longer than ICU can hold, some 2^31 units. Queries do not throw. Collated comparison (option 3
+/// of ICompare()) allocates inside ICU, which does not report failures.
 ///
-/// **Threads.** Counts are plain integers and nothing is locked. Strings that share a body must
-/// be copied, assigned, edited and destroyed by one thread at a time; threads may read them at
-/// once as long as none does any of these.
+/// **Threads.** There is no locking, and the number of holders is a plain integer: strings that
+/// share a body may be copied, assigned, edited and destroyed by only one thread at a time. Any
+/// number of threads may read them while none does any of these.
 class ZR_API ZRString {
  public:
-  /// The units of `text` up to its terminating zero unit; empty when `text` is null.
+  /// Holds the units of `text` up to its terminating zero unit; none if `text` is null.
   ZRString(const unsigned short* text);
 
-  /// The first `length` units of `text`; a negative length: up to its terminating zero unit.
+  /// Holds the first `length` units of `text`, as a raw operand with a start of 0.
   ZRString(const unsigned short* text, ZRLong length);
 
-  /// `length` units of `text` from its unit `start`; a negative length: from there up to the
-  /// terminating zero unit. The caller answers for the range; a null `text` gives an empty string.
+  /// Holds a range of `text`, a raw operand.
   ZRString(const unsigned short* text, ZRLong start, ZRLong length);
 
-  /// `length` bytes of `text` from its byte `start`, decoded from the code page windows-1252; a
-  /// length of -1: up to the terminating zero byte, any other negative length: none. A null
-  /// `text` gives an empty string.
+  /// Holds `length` bytes of `text` from its byte `start`, decoded from the code page windows-1252.
+  ///
+  /// A length of -1 means up to the terminating zero byte, any other negative length no bytes. The
+  /// range is not checked. A null `text` gives an empty string, whatever the range.
   ZRString(const unsigned char* text, ZRLong start, ZRLong length);
 
-  /// The same for `char`.
+  /// Holds 8-bit text, as the constructor from `unsigned char`.
   ZRString(const char* text, ZRLong start, ZRLong length);
 
-  /// The units of `record`, as many as its count says; -1: up to a zero unit.
+  /// Holds as many units of `record` as its length says; -1: up to the first zero unit.
   ZRString(const UniStr255& record);
 
-  /// A copy that shares the body of `source`.
+  /// Shares the body of `source`.
   ZR_INLINE ZRString(const ZRString& source) noexcept;
 
-  /// The first `length` units of `source`; -1: all. The one number is a length, not a start.
-  /// Shares the body of `source` when `length` is -1 or exactly its length.
+  /// Holds the first `length` units of `source`; -1: all. The number is a length, not a start.
+  ///
+  /// Shares the body of `source` if `length` is -1 or exactly its length.
   ZRString(const ZRString& source, ZRLong length);
 
-  /// A range of `source`; a length of -1: to its end. Shares the body of `source` when `start` is
-  /// 0 and `length` is -1 or exactly its length; otherwise the units are copied.
+  /// Holds a range of `source`.
+  ///
+  /// Shares the body of `source` if `start` is 0 and `length` is -1 or exactly its length; copies
+  /// the units otherwise.
   ZRString(const ZRString& source, ZRLong start, ZRLong length);
 
   /// Shares the body of the string that `handle` stands for; an empty string for a null handle.
   ZRString(ZRStringRef__* handle);
 
-  /// The same for the handle of a mutable string.
+  /// Shares the body of the mutable string that `handle` stands for; an empty string for a null
+  /// handle.
   ZRString(ZRMutableStringRef__* handle);
 
-  /// Gives up the share of the body, and frees the body with its last share.
+  /// Gives up this string's share of its body. The last holder destroys the body.
   ZR_INLINE virtual ~ZRString();
 
-  /// Equal texts. Strings that share a body are equal without a look at the text.
-  bool operator==(const ZRString& other) const;
-  bool operator!=(const ZRString& other) const;  ///< Different texts.
-  bool operator>(const ZRString& other) const;   ///< Code unit order.
-  bool operator<(const ZRString& other) const;   ///< Code unit order.
-  bool operator>=(const ZRString& other) const;  ///< Code unit order.
-  bool operator<=(const ZRString& other) const;  ///< Code unit order.
+  /// Whether the texts are equal. Does not read them if both strings hold the same body.
+  bool operator==(const ZRString& other) const noexcept;
+  bool operator!=(const ZRString& other) const noexcept;  ///< Whether the texts differ.
+  bool operator>(const ZRString& other) const noexcept;   ///< In code unit order.
+  bool operator<(const ZRString& other) const noexcept;   ///< In code unit order.
+  bool operator>=(const ZRString& other) const noexcept;  ///< In code unit order.
+  bool operator<=(const ZRString& other) const noexcept;  ///< In code unit order.
 
   /// Compares a range of this string with a range of `src` in UTF-16 code unit order.
   signed char Compare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
-                      ZRLong srcLength) const;
+                      ZRLong srcLength) const noexcept;
 
-  /// The same with a raw operand.
+  /// Compares a range of this string with a raw operand in UTF-16 code unit order.
   signed char Compare(ZRLong start, ZRLong length, const unsigned short* src, ZRLong srcStart,
-                      ZRLong srcLength) const;
+                      ZRLong srcLength) const noexcept;
 
-  /// The same with inclusive ends.
+  /// As Compare(), with inclusive ends.
   signed char CompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
-                             ZRLong srcEnd) const;
+                             ZRLong srcEnd) const noexcept;
 
-  /// Compares two ranges in code point order: a supplementary character, two units from U+D800
-  /// up, sorts after U+E000 to U+FFFF, where Compare() puts it before.
+  /// Compares a range of this string with a range of `src` in code point order.
+  ///
+  /// A supplementary character, whose units begin at U+D800, sorts after U+E000 to U+FFFF. In the
+  /// order of Compare() it sorts before them.
   signed char CompareCodePointOrder(ZRLong start, ZRLong length, const ZRString& src,
-                                    ZRLong srcStart, ZRLong srcLength) const;
+                                    ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// The same with a raw operand.
+  /// Compares a range of this string with a raw operand in code point order.
   signed char CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
-                                    ZRLong srcStart, ZRLong srcLength) const;
+                                    ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// The same with inclusive ends.
+  /// As CompareCodePointOrder(), with inclusive ends.
   signed char CompareCodePointOrderBetween(ZRLong start, ZRLong end, const ZRString& src,
-                                           ZRLong srcStart, ZRLong srcEnd) const;
+                                           ZRLong srcStart, ZRLong srcEnd) const noexcept;
 
-  /// Compares two ranges without regard to case, or in linguistic order.
+  /// Compares a range of this string with a range of `src` without regard to case, or in linguistic
+  /// order.
   ///
-  /// `options`: 0 default case folding in code unit order; 1 the same with the Turkic dotted and
-  /// dotless i; 2 default case folding in code point order; 3 linguistic order, case included, of
-  /// the collator of the process's default locale. Any other value goes to ICU's case folding
-  /// comparison as its option bits.
+  /// | `options` | Compares |
+  /// |---|---|
+  /// | 0, #kZRCompareIgnoreCase | by default case folding, in code unit order |
+  /// | 1, #kZRCompareIgnoreCaseTurkic | as 0, with the Turkic dotted and dotless i |
+  /// | 2, #kZRCompareIgnoreCaseCodePointOrder | as 0, in code point order |
+  /// | 3, #kZRCompareCollated | in the linguistic order of the default locale, case included |
+  /// | any other value | as ICU's case-insensitive comparison with these option bits |
   ///
-  /// The collator is made by the first comparison that needs it and kept until the library is
-  /// unloaded; a later change of the default locale does not reach it. If none can be made, the
-  /// result is 0 and the next call tries again. Option 3 may be used by several threads at once;
-  /// after the library's own clean-up at the process's end its result is 0.
+  /// Option 3 uses one collator, for the locale that is the default when a comparison first needs
+  /// it, and keeps it until the library is unloaded. If none can be created, the result is 0 and
+  /// the next comparison tries again. Several threads may use option 3 at once. Once the library's
+  /// static destructors have run, its result is 0.
   signed char ICompare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                        ZRLong srcLength, ZRULong options) const;
 
-  /// The same with a raw operand. With option 3 and a `srcStart` other than 0, `src` is read up to
-  /// its terminating zero unit, which must be there, and the range is cut to that text; -1 means to
-  /// its end, any other negative length an empty range.
+  /// Compares a range of this string with a raw operand without regard to case, or in linguistic
+  /// order.
+  ///
+  /// With option 3 and a `srcStart` other than 0, `src` is read up to its terminating zero unit and
+  /// the range is clamped to that text: there -1 means to its end, any other negative length an
+  /// empty range.
   signed char ICompare(ZRLong start, ZRLong length, const unsigned short* src, ZRLong srcStart,
                        ZRLong srcLength, ZRULong options) const;
 
-  /// The same with inclusive ends.
+  /// As ICompare(), with inclusive ends.
   signed char ICompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
                               ZRLong srcEnd, ZRULong options) const;
 
-  /// Whether this whole string begins with a range of `src`. An empty range: yes.
-  unsigned char StartsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const;
+  /// Whether this whole string begins with a range of `src`. 1 for an empty range.
+  unsigned char StartsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// The same with a raw operand.
-  unsigned char StartsWith(const unsigned short* src, ZRLong srcStart, ZRLong srcLength) const;
+  /// Whether this whole string begins with a raw operand. 1 for an empty range.
+  unsigned char StartsWith(const unsigned short* src, ZRLong srcStart,
+                           ZRLong srcLength) const noexcept;
 
-  /// Whether this whole string ends with a range of `src`. An empty range: yes.
-  unsigned char EndsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const;
+  /// Whether this whole string ends with a range of `src`. 1 for an empty range.
+  unsigned char EndsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// The same with a raw operand.
-  unsigned char EndsWith(const unsigned short* src, ZRLong srcStart, ZRLong srcLength) const;
+  /// Whether this whole string ends with a raw operand. 1 for an empty range.
+  unsigned char EndsWith(const unsigned short* src, ZRLong srcStart,
+                         ZRLong srcLength) const noexcept;
 
   /// Index of the first occurrence of a range of `pattern` inside a range of this string.
   ///
-  /// The index counts from the start of this string; -1 when the pattern's range is empty or does
-  /// not occur wholly inside [start, start + length). Half of a
-  /// surrogate pair, at either end of the pattern, is not found where it would cut a pair inside
-  /// the searched range.
+  /// The index counts from the start of this string. It is -1 (#kZRNotFound) if the pattern's range
+  /// is empty or does not occur wholly inside [start, start + length). A pattern that begins or
+  /// ends with half of a surrogate pair is not found where it would split a pair of the searched
+  /// range.
   ZRLong Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength, ZRLong start,
-              ZRLong length) const;
+              ZRLong length) const noexcept;
 
-  /// The same with a raw pattern; -1 also for a null pattern and for a negative `patternStart`.
+  /// Index of the first occurrence of a raw pattern inside a range of this string. Also -1 for a
+  /// null pattern and for a negative `patternStart`.
   ZRLong Find(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
-              ZRLong start, ZRLong length) const;
+              ZRLong start, ZRLong length) const noexcept;
 
-  /// Index of the last such occurrence.
+  /// Index of the last occurrence of what Find() finds the first of.
   ZRLong RFind(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength, ZRLong start,
-               ZRLong length) const;
+               ZRLong length) const noexcept;
 
-  /// The same with a raw pattern; -1 also for a null pattern and for a negative `patternStart`.
+  /// Index of the last occurrence of a raw pattern inside a range of this string. Also -1 for a
+  /// null pattern and for a negative `patternStart`.
   ZRLong RFind(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
-               ZRLong start, ZRLong length) const;
+               ZRLong start, ZRLong length) const noexcept;
 
-  /// Index of the last occurrence of `unit` in the whole string, -1 when there is none. Half of a
-  /// surrogate pair is not found inside a whole pair.
-  ZRLong LastIndexOf(unsigned short unit) const;
+  /// Index of the last occurrence of `unit` in the whole string; -1 if there is none. Half of a
+  /// surrogate pair is not found inside a pair.
+  ZRLong LastIndexOf(unsigned short unit) const noexcept;
 
-  /// The unit at `index`; 0xFFFF outside 0 .. GetLength() - 1.
-  unsigned short CharAt(ZRLong index) const;
-  unsigned short operator[](ZRLong index) const;  ///< CharAt().
+  /// The unit at `index`; 0xFFFF (#kZRNoUnit) outside 0 .. GetLength() - 1.
+  unsigned short CharAt(ZRLong index) const noexcept;
+  unsigned short operator[](ZRLong index) const noexcept;  ///< As CharAt().
 
-  ZRLong GetLength() const;       ///< Number of UTF-16 code units.
-  unsigned char IsEmpty() const;  ///< 1 when the length is 0.
+  ZRLong GetLength() const noexcept;       ///< Number of UTF-16 code units.
+  unsigned char IsEmpty() const noexcept;  ///< Whether the length is 0.
 
-  /// The units, not necessarily followed by a zero unit; take their number from GetLength().
+  /// The units, GetLength() of them, not necessarily followed by a zero unit.
   ///
-  /// Valid while this string holds the same body and no holder of that body changes it or asks
+  /// Valid as long as this string holds the same body and no holder of that body changes it or asks
   /// for its terminated buffer. Null while a writable buffer is open on the body, and in ICU's
   /// error state, which ZRStringMutator describes.
   virtual const unsigned short* GetBuffer() const;
 
-  /// Copies a range to `dst[dstStart]` onwards and puts a zero unit after it.
+  /// Copies a range to `dst[dstStart]` onwards and adds a zero unit.
   ///
-  /// Room for `dstStart` + copied units + 1 is the caller's to provide. Writes nothing, not even
-  /// the zero unit, when `start` is past the end or negative or `length` is below -1.
+  /// `dst` must have room for `dstStart`, the copied units and the zero unit, and must not overlap
+  /// this string's units. Writes nothing, not even the zero unit, if `start` is negative or past
+  /// the end or if `length` is below -1.
   virtual void Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const;
 
-  /// The same with an inclusive end. Writes nothing when `start` is negative or past `end` + 1,
-  /// `end` having been cut to the last index.
+  /// Copies the units `start` through `end` to `dst[dstStart]` onwards and adds a zero unit.
+  ///
+  /// As Extract(), but an `end` past the last index is first clamped to it. Writes nothing if
+  /// `start` is negative or greater than `end` + 1.
   virtual void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst, ZRLong dstStart) const;
 
-  /// This object's own address as a handle, valid as long as the object lives.
-  ZRStringRef__* GetZRStringRef() const;
+  /// This object's address as a handle, valid as long as the object lives.
+  ZRStringRef__* GetZRStringRef() const noexcept;
 
  protected:
-  /// Gives up this string's body and shares that of `other`; nothing when they share it already.
+  /// Gives up this string's body and shares that of `other`. Does nothing if both are the same.
   ZR_INLINE const ZRString& operator=(const ZRString& other) noexcept;
 
-  /// Makes this string the only holder of its body: a shared body is copied. When the copy cannot
-  /// be made, `std::bad_alloc` leaves the string as it was.
+  /// Makes this string the only holder of its body, by copying a shared one. If the copy cannot be
+  /// made, throws `std::bad_alloc` and leaves the string as it was.
   void CopyOnWrite();
 
  private:
@@ -257,7 +290,7 @@ class ZR_API ZRString {
   void CreateNewImplementation(ZRStringRef__* handle);
   void CreateNewImplementation(ZRMutableStringRef__* handle);
 
-  /// Destroys the body, of which this string is the last holder.
+  /// Destroys the body, whose last holder this string is.
   void DestroyBody() noexcept;
 
   /// Never null after construction; this object holds exactly one share of it. The text follows the

@@ -12,34 +12,41 @@ enum ZRStringNormalizationMode : int {
   kZRNormalizationFCD = 6    ///< fast C or D: not a form of its own, but fit for comparing
 };
 
-/// An editable string: a ZRString that takes a body of its own before it changes text.
+/// An editable string: a ZRString that gets a body of its own before it changes text.
 ///
-/// **Sharing.** Construction from a whole string, construction from a handle, and assignment share
-/// the source's body and copy nothing. Every editing member first *detaches*: a shared body is
-/// copied, once, and no other string ever sees the edit. An edit that turns out to change nothing
-/// detaches as well; only Normalize() does not.
+/// @code
+/// const ZRString red("red, green, red", 0, kZRToEnd);
+/// ZRStringMutator text(red);  // shares the units of `red`; the first edit copies them
+/// text.Replace(5, 5, ZRString("blue", 0, kZRToEnd), 0, kZRToEnd);
+/// assert(text == ZRString("red, blue, red", 0, kZRToEnd));
+/// text.Remove(9, kZRToEnd).ToUpper() += '!';
+/// assert(text == ZRString("RED, BLUE!", 0, kZRToEnd));
+/// assert(red == ZRString("red, green, red", 0, kZRToEnd));
+/// @endcode
 ///
-/// **Operands.** The conventions of ZRString hold: positions and ranges are cut to the text they
-/// refer to, a length of -1 for this string or for a ZRString operand means to its end, a negative
-/// length of a raw operand means up to its terminating zero unit, and `Between` members take
-/// inclusive ends. An operand may be this string itself or share its body; it is read as it was
-/// before the edit. The same holds for a raw operand within this string's own units, which the zero
-/// unit behind them is not part of.
+/// **Sharing.** Construction from a whole string or from a handle, and assignment, share the
+/// source's body and copy no units. Every editing member first *detaches*: it copies a shared body,
+/// so that no other string changes. Edits detach even if they change nothing, except Normalize().
 ///
-/// **Results.** Editing members return this object, so that edits chain.
+/// **Operands.** As for ZRString: ranges are clamped, -1 means to the end, raw operands are not
+/// checked and `Between` members take inclusive ends. Positions are clamped as well. An operand may
+/// be this string or share its body, and a raw operand may lie within this string's own units (not
+/// at the zero unit behind them): it is read as it was before the edit.
 ///
-/// **Errors.** Detaching, the temporaries that some members need and the sum of operator+() throw
-/// `std::bad_alloc` when they cannot be made, and leave this string and every operand as they were.
-/// When ICU runs out of memory inside an edit, or a text would grow past what ICU can hold, the
-/// text of this string is lost and in ICU's error state: its length is 0, its buffer is null, it
-/// equals only a text in the same state, and it ignores edits until SetTo() gives it a new text,
-/// Truncate(0) or Remove(0, INT32_MAX) makes it an empty one, or another string is assigned.
+/// **Results.** Editing members return this object, so that edits can be chained.
+///
+/// **Errors.** Detaching, and the copy that FindAndReplace() makes of an operand within this
+/// string's own units, throw `std::bad_alloc` and leave this string and every operand as they were.
+/// If ICU runs out of memory inside an edit, or the text would grow past what ICU can hold, this
+/// string's text is lost and in ICU's error state: its length is 0, its buffer is null, it equals
+/// only a text in the same state, and it ignores edits until SetTo() gives it a new text,
+/// Truncate(0) or Remove(0, INT32_MAX) empties it, or another string is assigned.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
-/// edits; use the string for nothing else meanwhile.
+/// edits. Do not use the string for anything else in between.
 ///
-/// **Threads.** As ZRString: a mutator, and all that share its body, belong to one thread at a
-/// time.
+/// **Threads.** As for ZRString: a mutator and the strings that share its body may be used by only
+/// one thread at a time.
 class ZR_API ZRStringMutator : public ZRString {
  public:
   ZRStringMutator();  ///< An empty string.
@@ -49,7 +56,7 @@ class ZR_API ZRStringMutator : public ZRString {
   ZRStringMutator(const char* text, ZRLong start, ZRLong length);            ///< As ZRString.
   ZRStringMutator(const unsigned short* text, ZRLong start, ZRLong length);  ///< As ZRString.
 
-  /// A range of `source`; shares its body exactly when ZRString would.
+  /// Holds a range of `source`. Shares its body in the same cases as ZRString.
   ZRStringMutator(const ZRString& source, ZRLong start, ZRLong length);
 
   ZR_INLINE ZRStringMutator(const ZRString& source) noexcept;         ///< Shares its body.
@@ -57,24 +64,27 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// Shares the body of the string that `handle` stands for; an empty string for a null handle.
   ZRStringMutator(ZRStringRef__* handle);
-  ZRStringMutator(ZRMutableStringRef__* handle);  ///< The same.
+
+  /// Shares the body of the mutable string that `handle` stands for; an empty string for a null
+  /// handle.
+  ZRStringMutator(ZRMutableStringRef__* handle);
 
   ZR_INLINE ~ZRStringMutator() override;
 
-  /// Gives up this string's body and shares that of `other`; copies no units.
+  /// Gives up this string's body and shares that of `other`. Copies no units.
   ZR_INLINE ZRStringMutator& operator=(const ZRStringMutator& other) noexcept;
 
-  /// Gives up this string's body and shares that of `other`; copies no units.
+  /// Gives up this string's body and shares that of `other`. Copies no units.
   ZR_INLINE ZRStringMutator& operator=(const ZRString& other) noexcept;
 
-  /// Makes a range of `source` the whole text.
+  /// Replaces the whole text by a range of `source`.
   ZRStringMutator& SetTo(const ZRString& source, ZRLong start, ZRLong length);
 
-  /// Makes the first `length` units of `text` the whole text.
+  /// Replaces the whole text by a raw operand with a start of 0.
   ZRStringMutator& SetTo(const unsigned short* text, ZRLong length);
 
-  /// Replaces the unit at `offset`: below 0 the first one, past the end the last one. An empty
-  /// string stays empty.
+  /// Replaces the unit at `offset`: the first one for an offset below 0, the last one for an offset
+  /// past the end. An empty string stays empty.
   ZRStringMutator& SetCharAt(ZRLong offset, unsigned short unit);
 
   ZRStringMutator& operator+=(unsigned short unit);    ///< Appends a unit.
@@ -83,20 +93,20 @@ class ZR_API ZRStringMutator : public ZRString {
   /// Appends a range of `source`.
   ZRStringMutator& Append(const ZRString& source, ZRLong start, ZRLong length);
 
-  /// The same with a raw operand.
+  /// Appends a raw operand.
   ZRStringMutator& Append(const unsigned short* text, ZRLong start, ZRLong length);
 
   /// Inserts a range of `source` before the unit at `position`.
   ZRStringMutator& Insert(ZRLong position, const ZRString& source, ZRLong start, ZRLong length);
 
-  /// The same with a raw operand.
+  /// Inserts a raw operand before the unit at `position`.
   ZRStringMutator& Insert(ZRLong position, const unsigned short* text, ZRLong start, ZRLong length);
 
   /// Replaces `length` units from `position` by a range of `source`.
   ZRStringMutator& Replace(ZRLong position, ZRLong length, const ZRString& source, ZRLong srcStart,
                            ZRLong srcLength);
 
-  /// The same with a raw operand.
+  /// Replaces `length` units from `position` by a raw operand.
   ZRStringMutator& Replace(ZRLong position, ZRLong length, const unsigned short* text,
                            ZRLong srcStart, ZRLong srcLength);
 
@@ -104,99 +114,108 @@ class ZR_API ZRStringMutator : public ZRString {
   ZRStringMutator& ReplaceBetween(ZRLong start, ZRLong end, const ZRString& source, ZRLong srcStart,
                                   ZRLong srcEnd);
 
-  ZRStringMutator& Remove(ZRLong start, ZRLong length);      ///< Removes `length` units.
+  ZRStringMutator& Remove(ZRLong start, ZRLong length);      ///< Removes a range.
   ZRStringMutator& RemoveBetween(ZRLong start, ZRLong end);  ///< Removes through `end`.
 
   /// Replaces every occurrence of a range of `oldText` inside [start, start + length) by a range
-  /// of `newText`. What was put in is not searched again; an empty old range changes nothing.
+  /// of `newText`. Replacements are not searched again. An empty old range changes nothing.
   ///
-  /// A raw operand is read up to its first zero unit, which must be there even when its length is
-  /// given; its range is cut to that text. -1 means to the end of that text, any other negative
-  /// length an empty range. An operand within this string's own units is copied before this string
-  /// detaches.
+  /// The other overloads take one or both operands raw. Such an operand is read up to its first
+  /// zero unit at most, even if its length says more, and its range is clamped to that text: -1
+  /// means to its end, any other negative length an empty range.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
                                   ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
                                   ZRLong newStart, ZRLong newLength);
+
+  /// As FindAndReplace(), with a raw `oldText`.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const unsigned short* oldText,
                                   ZRLong oldStart, ZRLong oldLength, const ZRString& newText,
-                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+                                  ZRLong newStart, ZRLong newLength);
+
+  /// As FindAndReplace(), with a raw `newText`.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const ZRString& oldText,
                                   ZRLong oldStart, ZRLong oldLength, const unsigned short* newText,
-                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+                                  ZRLong newStart, ZRLong newLength);
+
+  /// As FindAndReplace(), with both operands raw.
   ZRStringMutator& FindAndReplace(ZRLong start, ZRLong length, const unsigned short* oldText,
                                   ZRLong oldStart, ZRLong oldLength, const unsigned short* newText,
-                                  ZRLong newStart, ZRLong newLength);  ///< The same.
+                                  ZRLong newStart, ZRLong newLength);
 
-  /// Brings the text into a normalization form.
-  /// @return 1 when the text was replaced by its normalized form; 0 when a quick check found it in
-  ///         that form, when `mode` is none of the five, or when ICU reported an error, for want of
-  ///         memory too. With 0, and when `std::bad_alloc` is thrown, the string is unchanged and a
-  ///         shared body stays shared.
+  /// Replaces the text by its normalized form.
+  /// @return 1 if the text was replaced. 0, with the string unchanged and a shared body still
+  ///         shared, if a quick check found the text normalized, if `mode` is none of the five, or
+  ///         if ICU failed. `std::bad_alloc` also leaves the string unchanged.
   unsigned char Normalize(ZRStringNormalizationMode mode);
 
   /// Fills up to `targetLength` units with `padUnit` at the front.
-  /// @return 1 when the string was shorter, else 0; 0 also when ICU cannot hold that many units,
-  /// and
-  ///         the text is then in ICU's error state.
+  /// @return 1 if the string was shorter and was filled, else 0. 0 also if ICU cannot hold that
+  ///         many units; the text is then in ICU's error state.
   unsigned char PadLeading(ZRLong targetLength, unsigned short padUnit);
 
-  /// The same at the end.
+  /// Fills up to `targetLength` units with `padUnit` at the end. Returns as PadLeading().
   unsigned char PadTrailing(ZRLong targetLength, unsigned short padUnit);
 
   /// Cuts the text to `targetLength` units.
-  /// @return 1 when the string was longer, else 0; 0 for a negative length too.
+  /// @return 1 if the string was longer, else 0. 0 also for a negative length.
   unsigned char Truncate(ZRLong targetLength);
 
-  /// Removes leading and trailing white space, as ICU's `u_isWhitespace` knows it.
+  /// Removes leading and trailing white space, as ICU's `u_isWhitespace` defines it.
   ZRStringMutator& Trim();
 
-  /// Reverses a range; surrogate pairs in it stay in order.
+  /// Reverses a range. The units of surrogate pairs in it stay in order.
   ZRStringMutator& Reverse(ZRLong start, ZRLong length);
 
-  /// Full case mapping by ICU's default locale; the length may change.
+  /// Maps to upper case by the rules of ICU's default locale. The length may change.
   ZRStringMutator& ToUpper();
-  ZRStringMutator& ToLower();  ///< The same.
+
+  /// Maps to lower case by the rules of ICU's default locale. The length may change.
+  ZRStringMutator& ToLower();
 
   const unsigned short* GetBuffer() const override;
   void Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const override;
   void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
                       ZRLong dstStart) const override;
 
-  /// Makes a range of this string the whole text of `target`, which detaches; this string does
-  /// not.
+  /// Replaces the whole text of `target`, which detaches, by a range of this string.
   void Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const;
 
-  /// The same with an inclusive end.
+  /// Replaces the whole text of `target`, which detaches, by the units `start` through `end`.
   void ExtractBetween(ZRLong start, ZRLong end, ZRStringMutator& target) const;
 
   /// This string followed by `other`.
   ZRStringMutator operator+(const ZRString& other) const;
 
-  /// Detaches and opens the text's own storage for writing, with room for at least `minCapacity`
-  /// units (-1: its current capacity). The previous units are still in it.
+  /// Detaches and opens the text's storage for writing, with room for at least `minCapacity` units
+  /// (-1: its current capacity). The previous units are still in it.
   ///
-  /// Null, with nothing changed, when a buffer is open already or `minCapacity` is below -1; null,
-  /// with the text in ICU's error state, when ICU has no memory.
-  /// Valid until ReleaseBuffer(). Do not copy the string while the buffer is open: the copy shares
-  /// the body and sees what is written, and a second call here would detach from it and leave the
-  /// copy with an open buffer that nobody can close.
+  /// The pointer is valid until ReleaseBuffer(). It is null, with the text unchanged, if a buffer
+  /// is already open or `minCapacity` is below -1, and null, with the text in ICU's error state, if
+  /// ICU runs out of memory.
+  ///
+  /// Do not copy the string while the buffer is open. The copy would share the body and see what is
+  /// written; a second call here would detach from it and leave the copy with an open buffer that
+  /// nobody can close.
   virtual unsigned short* GetBuffer(ZRLong minCapacity);
 
-  /// Closes the buffer and makes `newLength` the length, at most the capacity; -1: up to the first
-  /// zero unit in the buffer, or the whole capacity when there is none. Nothing when no buffer is
-  /// open or `newLength` is below -1. Acts on the body held at this moment, without detaching.
-  void ReleaseBuffer(ZRLong newLength);
+  /// Closes the buffer and sets the length to `newLength`, at most the capacity; -1: up to the
+  /// first zero unit in the buffer, or the whole capacity if there is none.
+  ///
+  /// Does nothing if no buffer is open or `newLength` is below -1. Acts on the body that this
+  /// string holds at this moment, without detaching.
+  void ReleaseBuffer(ZRLong newLength) noexcept;
 
-  /// The units followed by a zero unit, without detaching. The units may move: a pointer that
-  /// GetBuffer() gave, here or from a string that shares the body, is then invalid. For threads
-  /// this is an edit. Null, with the text as it was, while a buffer is open, in ICU's error state
-  /// and when ICU has no memory.
-  const unsigned short* GetTerminatedBuffer();
+  /// The units followed by a zero unit, without detaching.
+  ///
+  /// The units may move, which invalidates pointers from GetBuffer() of this string and of strings
+  /// that share its body; for threads this is an edit. Null, with the text unchanged, while a
+  /// buffer is open, in ICU's error state, and if ICU runs out of memory.
+  const unsigned short* GetTerminatedBuffer() noexcept;
 
-  ZRLong GetCapacity() const;  ///< Units that the text's storage has room for.
+  ZRLong GetCapacity() const noexcept;  ///< Number of units that the text's storage has room for.
 
-  /// This object's own address as a handle, valid as long as the object lives.
-  ZRMutableStringRef__* GetZRMutableStringRef();
+  /// This object's address as a handle, valid as long as the object lives.
+  ZRMutableStringRef__* GetZRMutableStringRef() noexcept;
 };
 
 /// `left` followed by `unit`.

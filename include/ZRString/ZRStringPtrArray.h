@@ -14,76 +14,89 @@ extern template class std::vector<ZRString*>;  // there dllexport belongs to the
 extern template class ZR_API std::vector<ZRString*>;
 #endif
 
-/// An ordered list of string pointers, which it does not own.
+/// An ordered list of string pointers that it does not own.
+///
+/// @code
+/// ZRStringPtrArray names;
+/// names.PushBack(new ZRString("Ada", 0, kZRToEnd));
+/// names.PushBack(new ZRStringMutator(ZRString("Grace", 0, kZRToEnd)));
+/// assert(names.Size() == 2 && names[1]->CharAt(0) == 'G');
+/// assert(names[7] == names[1]);  // outside the array: the last entry
+/// names.DeleteAll();             // without it, the two strings would leak
+/// assert(names.Empty());
+/// @endcode
 ///
 /// **Ownership.** The array stores pointers as they are given, null included, and owns only its
-/// storage. Destroying, assigning and erasing drop pointers and leave the strings alive. The one
-/// exception is DeleteAll(), which deletes every string in the array. Copies of an array hold the
-/// same pointers.
+/// storage. Destroying it, assigning to it and erasing entries drop pointers and leave the strings
+/// alive; only DeleteAll() deletes strings. Copies of an array hold the same pointers.
 ///
-/// **Indices** count from 0 and are valid below Size(). Iterators follow the rules of
-/// `std::vector`, which the storage is.
+/// **Indices** count from 0 and are valid below Size(). The storage is a `std::vector`, whose rules
+/// hold for iterators.
 ///
 /// **Errors.** Growing throws what `std::vector` throws (`std::bad_alloc`, `std::length_error`) and
 /// leaves the entries as they were.
 ///
-/// **Threads.** One thread at a time.
+/// **Threads.** An array may be used by only one thread at a time.
 class ZR_API ZRStringPtrArray {
  public:
-  ZRStringPtrArray();                               ///< No entries.
-  ZRStringPtrArray(const ZRStringPtrArray& other);  ///< The same pointers in the same order.
-  ~ZRStringPtrArray();                              ///< Deletes no string.
+  ZRStringPtrArray() noexcept;                      ///< An empty array.
+  ZRStringPtrArray(const ZRStringPtrArray& other);  ///< Holds the same pointers in the same order.
+  ~ZRStringPtrArray();                              ///< Does not delete the strings.
 
-  /// Drops the entries, deleting no string, and takes over the pointers of `other`.
+  /// Replaces the entries by the pointers of `other`. Does not delete the strings.
   ZRStringPtrArray& operator=(const ZRStringPtrArray& other);
 
-  ZRULong Size() const;  ///< Number of entries.
-  bool Empty() const;    ///< Whether there are none.
+  ZRULong Size() const noexcept;  ///< Number of entries.
+  bool Empty() const noexcept;    ///< Whether there are no entries.
 
-  /// The entry at `index`; for an index outside the array the last entry.
-  /// @throws std::out_of_range when the array is empty
+  /// The entry at `index`, or the last entry for an index outside the array.
+  /// @throws std::out_of_range if the array is empty
   ZRString* operator[](ZRLong index);
 #if defined(__GNUC__)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wignored-qualifiers"  // the const is part of the published type
 #endif
-  ZRString* const operator[](ZRLong index) const;  ///< The same.
+  /// The entry at `index`, or the last entry for an index outside the array.
+  /// @throws std::out_of_range if the array is empty
+  ZRString* const operator[](ZRLong index) const;
 #if defined(__GNUC__)
 #pragma GCC diagnostic pop
 #endif
-  ZRString* GetString(ZRLong index);  ///< The same.
+  ZRString* GetString(ZRLong index);  ///< As operator[]().
 
-  /// Puts `string` in the place of the entry at `index`, which is dropped, not deleted.
+  /// Replaces the entry at `index` by `string`. Does not delete the string that was there.
   /// @return false, with nothing changed, for an index outside the array
-  bool SetString(ZRLong index, ZRString* const string);
+  bool SetString(ZRLong index, ZRString* const string) noexcept;
 
-  /// Inserts `string` before the entry at `index`; PushBack() appends.
+  /// Inserts `string` before the entry at `index`. PushBack() appends.
   /// @return false, with nothing changed, for an index outside the array, Size() included
   bool Insert(ZRLong index, ZRString* const string);
 
   void PushBack(ZRString* const string);  ///< Appends an entry.
 
-  /// Drops the entry at `index`, deleting no string; nothing for an index outside the array.
-  void Erase(ZRLong index);
+  /// Removes the entry at `index` and does not delete its string. Does nothing for an index outside
+  /// the array.
+  void Erase(ZRLong index) noexcept;
 
-  /// Drops the entry at `position`, which must point to one, deleting no string.
+  /// Removes the entry at `position`, which must point to one, and does not delete its string.
   /// @return the position of the entry that followed it
-  std::vector<ZRString*>::iterator Erase(std::vector<ZRString*>::iterator position);
+  std::vector<ZRString*>::iterator Erase(std::vector<ZRString*>::iterator position) noexcept;
 
-  void EraseAll();  ///< Drops all entries, deleting no string.
+  void EraseAll() noexcept;  ///< Removes all entries. Does not delete the strings.
 
-  /// Deletes every string in the array, a ZRStringMutator as one, and drops all entries.
+  /// Deletes every string in the array and removes all entries. Null entries are skipped.
   ///
-  /// Every entry that is not null must have been created with `new` and stand in one entry only.
-  void DeleteAll();
+  /// Every string must have been created with `new`, as a ZRString or a ZRStringMutator, and must
+  /// be in one entry only.
+  void DeleteAll() noexcept;
 
-  std::vector<ZRString*>::iterator Begin();              ///< The vector's begin().
-  std::vector<ZRString*>::iterator End();                ///< The vector's end().
-  std::vector<ZRString*>::const_iterator Begin() const;  ///< The vector's begin().
-  std::vector<ZRString*>::const_iterator End() const;    ///< The vector's end().
+  std::vector<ZRString*>::iterator Begin() noexcept;              ///< The vector's begin().
+  std::vector<ZRString*>::iterator End() noexcept;                ///< The vector's end().
+  std::vector<ZRString*>::const_iterator Begin() const noexcept;  ///< The vector's begin().
+  std::vector<ZRString*>::const_iterator End() const noexcept;    ///< The vector's end().
 
-  /// This object's own address as a handle, valid as long as the object lives.
-  ZRStringPtrArrayRef__* GetZRStringPtrArrayRef();
+  /// This object's address as a handle, valid as long as the object lives.
+  ZRStringPtrArrayRef__* GetZRStringPtrArrayRef() noexcept;
 
  private:
   std::vector<ZRString*> strings_;

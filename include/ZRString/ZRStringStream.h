@@ -7,20 +7,21 @@
 #include <ZRString/ZRStringPtrArray.h>
 
 /// @file
-/// Strings and arrays saved to and restored from a binary stream of the host.
+/// Saves strings and arrays to a binary stream of the host, a Velmar::IStream, and restores them.
+/// Output to standard streams is in ZRStringOutput.h.
 ///
 /// A **string record** is the string's length as a `ZRLong`, then each of its units as an
-/// `unsigned short`, one call of the stream each. An **array record** is the number of entries as a
-/// `ZRULong`, then the string record of each. Units move as they are, zero units and unpaired
-/// surrogates included.
+/// `unsigned short`. An **array record** is the number of entries as a `ZRULong`, then the string
+/// record of each entry. Every value is one call of the stream. Units are moved unchanged, zero
+/// units and unpaired surrogates included.
 ///
-/// Every operator returns its stream. Data flow with the arrow. What the stream throws passes
-/// through, and `std::bad_alloc` may be thrown when reading; both leave the mutator as it was, and
-/// the array with the entries that were complete. Reading into a mutator ends in an edit, with what
-/// that means when ICU runs out of memory.
+/// Data flow in the direction of the arrows, and every operator returns its stream. Exceptions of
+/// the stream pass through, and reading may throw `std::bad_alloc`. Either leaves a mutator as it
+/// was, and an array with the entries that were complete. Reading into a mutator ends with SetTo(),
+/// so ICU's running out of memory there leaves ICU's error state, which ZRStringMutator describes.
 ///
-/// Lengths and counts are trusted. A damaged length makes a reader allocate for it, and a damaged
-/// count makes it ask the stream for as many strings.
+/// Lengths and counts are trusted: a reader allocates as many units as a length says, and asks the
+/// stream for as many strings as a count says.
 
 /// Writes the record of `string`.
 ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, const ZRString& string);
@@ -28,21 +29,21 @@ ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, const ZRStri
 /// Writes the record of `string`.
 ZR_API Velmar::IStream& ZR_CALL operator>>(const ZRString& string, Velmar::IStream& stream);
 
-/// Reads a string record into `string`, which detaches. A record of length 0 or less, of which
-/// only the length is read, leaves `string` as it was.
+/// Reads a string record into `string`, which detaches. If the length is 0 or less, reads nothing
+/// more and leaves `string` as it was.
 ZR_API Velmar::IStream& ZR_CALL operator>>(Velmar::IStream& stream, ZRStringMutator& string);
 
-/// The same.
+/// Reads a string record into `string`, as `stream >> string`.
 ZR_API Velmar::IStream& ZR_CALL operator<<(ZRStringMutator& string, Velmar::IStream& stream);
 
-/// Writes the record of `array`, which must hold no null entry and is not changed.
+/// Writes the record of `array`, which must not hold null entries and is not changed.
 ZR_API Velmar::IStream& ZR_CALL operator<<(Velmar::IStream& stream, ZRStringPtrArray& array);
 
-/// Reads an array record and appends its strings to `array`, behind what it holds.
+/// Reads an array record and appends its strings to the entries of `array`.
 ///
-/// The strings are made with `new` and belong to the owner of the array, who normally releases
-/// them with ZRStringPtrArray::DeleteAll(). A record of length 0 gives an empty string; a negative
-/// length throws `std::bad_alloc`.
+/// The strings are created with `new` and belong to the owner of the array, who normally deletes
+/// them with ZRStringPtrArray::DeleteAll(). A length of 0 gives an empty string; a negative length
+/// throws `std::bad_alloc`.
 ZR_API Velmar::IStream& ZR_CALL operator>>(Velmar::IStream& stream, ZRStringPtrArray& array);
 
 #endif

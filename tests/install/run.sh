@@ -137,6 +137,17 @@ else
   fail "the programs of the README"
 fi
 
+say "the examples in the headers"
+header_examples > "$work/examples.cpp"
+[ "$(grep -c '^{$' "$work/examples.cpp")" = 3 ] || fail "a class has no example"
+# shellcheck disable=SC2046,SC2086 # several options
+if "$CXX" $CXXFLAGS -std=c++17 -Wall -Wextra -Werror "$work/examples.cpp" -o "$work/examples" \
+  $(pkg-config --cflags --libs zrstring); then
+  run_program "$work/examples" /dev/null
+else
+  fail "the examples in the headers"
+fi
+
 say "as part of another project"
 if "$CMAKE" -S "$tests/parent" -B "$work/parent" -DBUILD_SHARED_LIBS=OFF \
   -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents" > "$work/parent.log" 2>&1 &&

@@ -1,33 +1,13 @@
 #include <ZRString/ZRStringMutator.h>
-#include <unicode/normlzr.h>
+#include <unicode/unistr.h>
 
 #include <functional>
-#include <new>
-#include <utility>
 
 #include "string/CodeUnits.h"
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
-// The members of ZRStringMutator that work on every occurrence of a text or on the whole text.
-
 namespace {
-
-UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
-  switch (mode) {
-    case kZRNormalizationNFC:
-      return UNORM_NFC;
-    case kZRNormalizationNFKC:
-      return UNORM_NFKC;
-    case kZRNormalizationNFD:
-      return UNORM_NFD;
-    case kZRNormalizationNFKD:
-      return UNORM_NFKD;
-    case kZRNormalizationFCD:
-      return UNORM_FCD;
-  }
-  return UNORM_NONE;
-}
 
 /// The operand that a raw text is for an edit of `edited`: the caller's own units, without a copy,
 /// unless the edit may change them.
@@ -42,7 +22,7 @@ icu::UnicodeString Operand(const icu::UnicodeString& edited, const unsigned shor
     return icu::UnicodeString(false, units.first, units.count);
   icu::UnicodeString copy(units.first, units.count);
   if (copy.isBogus())
-    throw std::bad_alloc();
+    ThrowBadAlloc();
   return copy;
 }
 
@@ -118,67 +98,5 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
   const icu::UnicodeString newOperand = Operand(TextOf(body_), newText, newStart, newLength);
   CopyOnWrite();
   ReplaceAll(TextOf(body_), start, length, oldOperand, 0, kZRToEnd, newOperand, 0, kZRToEnd);
-  return *this;
-}
-
-unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
-  const ZRLong length = GetLength();
-  const icu::UnicodeString current(false, ToIcu(GetBuffer()), length);  // an alias, not a copy
-  const UNormalizationMode icuMode = IcuMode(mode);
-  UErrorCode status = U_ZERO_ERROR;
-  if (icu::Normalizer::quickCheck(current, icuMode, status) == UNORM_YES)
-    return 0;
-  icu::UnicodeString normalized;
-  icu::Normalizer::normalize(current, icuMode, 0, normalized, status);
-  if (U_FAILURE(status) || normalized.isBogus())
-    return 0;
-  // The result becomes the text as it is. A copy of it into the text could fail, and the text would
-  // be lost.
-  if (body_->IsShared()) {
-    auto* const body = new ZRStringImplementation(std::move(normalized));
-    body_->GiveUpShare();
-    body_ = body;
-  } else {
-    TextOf(body_).swap(normalized);
-  }
-  return 1;
-}
-
-unsigned char ZRStringMutator::PadLeading(ZRLong targetLength, unsigned short padUnit) {
-  CopyOnWrite();
-  return TextOf(body_).padLeading(targetLength, padUnit);
-}
-
-unsigned char ZRStringMutator::PadTrailing(ZRLong targetLength, unsigned short padUnit) {
-  CopyOnWrite();
-  return TextOf(body_).padTrailing(targetLength, padUnit);
-}
-
-unsigned char ZRStringMutator::Truncate(ZRLong targetLength) {
-  CopyOnWrite();
-  return TextOf(body_).truncate(targetLength);
-}
-
-ZRStringMutator& ZRStringMutator::Trim() {
-  CopyOnWrite();
-  TextOf(body_).trim();
-  return *this;
-}
-
-ZRStringMutator& ZRStringMutator::Reverse(ZRLong start, ZRLong length) {
-  CopyOnWrite();
-  TextOf(body_).reverse(start, Resolved(length));
-  return *this;
-}
-
-ZRStringMutator& ZRStringMutator::ToUpper() {
-  CopyOnWrite();
-  TextOf(body_).toUpper();
-  return *this;
-}
-
-ZRStringMutator& ZRStringMutator::ToLower() {
-  CopyOnWrite();
-  TextOf(body_).toLower();
   return *this;
 }

@@ -1,0 +1,165 @@
+#include <ZRString/ZRString.h>
+
+#include <algorithm>
+#include <cstdint>
+
+#include "string/CodeUnits.h"
+#include "string/Range.h"
+#include "string/ZRStringImplementation.h"
+
+// The members of ZRString that read a string, but for ICompare(). The build compiles this file
+// without exceptions: nothing here throws, but ICU's declarations do not say so of ICU, and a
+// noexcept function can end in a jump only to what it knows not to throw.
+
+bool ZRString::operator==(const ZRString& other) const noexcept {
+  return body_ == other.body_ || TextOf(body_) == TextOf(other.body_);
+}
+
+bool ZRString::operator!=(const ZRString& other) const noexcept {
+  return TextOf(body_) != TextOf(other.body_);
+}
+
+bool ZRString::operator>(const ZRString& other) const noexcept {
+  return TextOf(body_) > TextOf(other.body_);
+}
+
+bool ZRString::operator<(const ZRString& other) const noexcept {
+  return TextOf(body_) < TextOf(other.body_);
+}
+
+bool ZRString::operator>=(const ZRString& other) const noexcept {
+  return TextOf(body_) >= TextOf(other.body_);
+}
+
+bool ZRString::operator<=(const ZRString& other) const noexcept {
+  return TextOf(body_) <= TextOf(other.body_);
+}
+
+signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
+                              ZRLong srcLength) const noexcept {
+  return TextOf(body_).compare(start, Resolved(length), TextOf(src.body_), srcStart,
+                               Resolved(srcLength));
+}
+
+signed char ZRString::Compare(ZRLong start, ZRLong length, const unsigned short* src,
+                              ZRLong srcStart, ZRLong srcLength) const noexcept {
+  const RawOperand raw(src, srcStart, srcLength);
+  return TextOf(body_).compare(start, Resolved(length), raw.units, raw.start, raw.length);
+}
+
+signed char ZRString::CompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
+                                     ZRLong srcEnd) const noexcept {
+  const Range own = Between(start, end);
+  const Range other = Between(srcStart, srcEnd);
+  return TextOf(body_).compareBetween(own.start, own.limit, TextOf(src.body_), other.start,
+                                      other.limit);
+}
+
+signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const ZRString& src,
+                                            ZRLong srcStart, ZRLong srcLength) const noexcept {
+  return TextOf(body_).compareCodePointOrder(start, Resolved(length), TextOf(src.body_), srcStart,
+                                             Resolved(srcLength));
+}
+
+signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
+                                            ZRLong srcStart, ZRLong srcLength) const noexcept {
+  const RawOperand raw(src, srcStart, srcLength);
+  return TextOf(body_).compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
+                                             raw.length);
+}
+
+signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, const ZRString& src,
+                                                   ZRLong srcStart, ZRLong srcEnd) const noexcept {
+  const Range own = Between(start, end);
+  const Range other = Between(srcStart, srcEnd);
+  return TextOf(body_).compareCodePointOrderBetween(own.start, own.limit, TextOf(src.body_),
+                                                    other.start, other.limit);
+}
+
+unsigned char ZRString::StartsWith(const ZRString& src, ZRLong srcStart,
+                                   ZRLong srcLength) const noexcept {
+  // ICU 72's startsWith(), unlike its endsWith(), does not pin the operand's range.
+  const icu::UnicodeString& srcText = TextOf(src.body_);
+  const std::int32_t first = std::clamp<std::int32_t>(srcStart, 0, srcText.length());
+  const std::int32_t count =
+      std::clamp<std::int32_t>(Resolved(srcLength), 0, srcText.length() - first);
+  return TextOf(body_).startsWith(srcText, first, count);
+}
+
+unsigned char ZRString::StartsWith(const unsigned short* src, ZRLong srcStart,
+                                   ZRLong srcLength) const noexcept {
+  const Units raw = RawUnits(src, srcStart, srcLength);
+  return TextOf(body_).startsWith(raw.first, 0, raw.count);
+}
+
+unsigned char ZRString::EndsWith(const ZRString& src, ZRLong srcStart,
+                                 ZRLong srcLength) const noexcept {
+  return TextOf(body_).endsWith(TextOf(src.body_), srcStart, Resolved(srcLength));
+}
+
+unsigned char ZRString::EndsWith(const unsigned short* src, ZRLong srcStart,
+                                 ZRLong srcLength) const noexcept {
+  const Units raw = RawUnits(src, srcStart, srcLength);
+  return TextOf(body_).endsWith(raw.first, 0, raw.count);
+}
+
+ZRLong ZRString::Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
+                      ZRLong start, ZRLong length) const noexcept {
+  return TextOf(body_).indexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength), start,
+                               Resolved(length));
+}
+
+ZRLong ZRString::Find(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
+                      ZRLong start, ZRLong length) const noexcept {
+  return TextOf(body_).indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+                               Resolved(length));
+}
+
+ZRLong ZRString::RFind(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
+                       ZRLong start, ZRLong length) const noexcept {
+  return TextOf(body_).lastIndexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength),
+                                   start, Resolved(length));
+}
+
+ZRLong ZRString::RFind(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
+                       ZRLong start, ZRLong length) const noexcept {
+  return TextOf(body_).lastIndexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+                                   Resolved(length));
+}
+
+ZRLong ZRString::LastIndexOf(unsigned short unit) const noexcept {
+  return TextOf(body_).lastIndexOf(static_cast<char16_t>(unit));
+}
+
+unsigned short ZRString::CharAt(ZRLong index) const noexcept { return TextOf(body_).charAt(index); }
+
+unsigned short ZRString::operator[](ZRLong index) const noexcept {
+  return TextOf(body_).charAt(index);
+}
+
+ZRLong ZRString::GetLength() const noexcept { return TextOf(body_).length(); }
+
+unsigned char ZRString::IsEmpty() const noexcept { return TextOf(body_).isEmpty(); }
+
+const unsigned short* ZRString::GetBuffer() const { return FromIcu(TextOf(body_).getBuffer()); }
+
+void ZRString::Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const {
+  // As unsigned numbers, a negative start lies past the end and a length of -1 does too.
+  const std::uint32_t whole = TextOf(body_).length();
+  const std::uint32_t first = start;
+  if (first > whole || length < kZRToEnd)
+    return;
+  const std::uint32_t count = std::min<std::uint32_t>(length, whole - first);
+  (dst + dstStart)[count] = 0;
+  TextOf(body_).extract(start, count, ToIcu(dst), dstStart);
+}
+
+void ZRString::ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
+                              ZRLong dstStart) const {
+  const ZRLong whole = TextOf(body_).length();
+  const ZRLong limit = end < whole ? end + 1 : whole;
+  if (start < 0 || start > limit)
+    return;
+  (dst + dstStart)[limit - start] = 0;
+  TextOf(body_).extractBetween(start, limit, ToIcu(dst), dstStart);
+}
