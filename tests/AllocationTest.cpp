@@ -138,7 +138,12 @@ TEST_F(Allocation, FailureInAConversionIsThrown) {
           }
           failed = memory->Recover();
           EXPECT_EQ(thrown, failed) << length;
+#ifdef _WIN32  // std::string's memory is allocated, unseen, by the C++ library's DLL, and freed
+               // here
+          EXPECT_LE(ownMemory.live + icuMemory.live, before) << length;
+#else
           EXPECT_EQ(ownMemory.live + icuMemory.live, before) << length;
+#endif
         }
   }
 }

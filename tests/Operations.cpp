@@ -19,8 +19,9 @@ Text Spliced(const Case& c, const Text& range, const Text& part) {
 
 /// The index that a search inside the target's own range gives.
 ZRLong Found(const Case& c, std::size_t at) {
-  return c.o.part.empty() || at == Text::npos ? -1
-                                              : static_cast<ZRLong>(at) + std::max(c.t.start, 0);
+  return c.o.part.empty() || at == Text::npos
+             ? -1
+             : static_cast<ZRLong>(at) + std::max<ZRLong>(c.t.start, 0);
 }
 
 Text AllReplaced(Text text, const Text& oldText, const Text& newText) {

@@ -140,7 +140,7 @@ class World {
     c.unit = static_cast<char16_t>(Pick({'a', 'b', 'A', ' ', '*', 0xB2, 0x20AC}));
     c.options = Pick({0, 1, 2, 3, 3, 0x8000});
     c.index = Below(2) ? Below(6) : Edge(false);
-    c.count = std::max(Edge(true), 1);
+    c.count = std::max<ZRLong>(Edge(true), 1);
     c.capacity = Pick({valid ? 0 : -1, 0, 1, 5, 27, 28, 40});
     c.released = Pick({-1, 0, 1, 2});
     c.mode = Pick({2, 3, 3, 4, 5, 5, 6, 7, INT_MIN});
@@ -243,7 +243,7 @@ class World {
   ZRLong Edge(bool valid) {
     const ZRLong edge =
         Pick({0, 1, 2, 3, 5, 6, 26, INT_MAX - 1, INT_MAX, 0, 1, 2, -1, -2, INT_MIN, INT_MIN + 1});
-    return valid ? std::max(edge, 0) : edge;
+    return valid ? std::max<ZRLong>(edge, 0) : edge;
   }
 
   void Reset(Slot& slot) {
