@@ -59,6 +59,8 @@ awk -v here="$system" -v option="${1-}" -v calls=1000 -v table="$work/table" '
         complain(name ": " more ", the limit is " limit)
       if (option != "--record" && more > recorded + 2)
         complain(name ": " more ", " recorded " recorded")
+      if (more < recorded - 2)
+        print "  fewer than recorded: --record keeps it so"
       delete counted[name]
       $0 = sprintf("%6d %s", more, name)
     } else {
