@@ -17,7 +17,7 @@ bool IsInside(ZRLong index, const std::vector<ZRString*>& strings) {
 ZRString* EntryOrLast(ZRLong index, const std::vector<ZRString*>& strings) {
   if (IsInside(index, strings))
     return strings[index];
-  // vector::at would throw the same exception with a text of its own.
+  // vector::at() would throw this exception with another message.
   if (strings.empty())
     throw std::out_of_range("invalid vector<T> subscript");
   return strings.back();

@@ -7,13 +7,13 @@
 #include <cstdint>
 
 // The interface's code unit, unsigned short, and ICU's, char16_t, are distinct types of the same
-// width. Every pointer to one becomes a pointer to the other here, behind ICU's aliasing barrier.
+// width. All conversions between pointers to them are here, with ICU's aliasing barrier.
 
 inline const char16_t* ToIcu(const unsigned short* units) { return icu::ConstChar16Ptr(units); }
 
 inline char16_t* ToIcu(unsigned short* units) { return icu::Char16Ptr(units); }
 
-// ICU's own way back, toOldUCharPtr, gives wchar_t on Windows.
+// ICU's own conversion back, toOldUCharPtr, gives wchar_t on Windows.
 inline const unsigned short* FromIcu(const char16_t* units) {
 #ifdef U_ALIASING_BARRIER
   U_ALIASING_BARRIER(units);
@@ -25,14 +25,14 @@ inline unsigned short* FromIcu(char16_t* units) {
   return const_cast<unsigned short*>(FromIcu(const_cast<const char16_t*>(units)));
 }
 
-/// A length of a raw text as ICU 72 reads it reliably: below -1 some of its members do not take a
-/// negative length as "up to the terminating zero unit".
+/// The length of a raw operand with -1 for every negative length. Some of ICU 72's members read
+/// only -1 as "up to the terminating zero unit".
 inline std::int32_t RawLength(ZRLong length) { return length < 0 ? -1 : length; }
 
-/// A raw operand as ICU's members take it.
+/// A raw operand as the arguments of an ICU call.
 ///
-/// ICU 72 mishandles a start together with a negative length: compare() and caseCompare() measure
-/// the text from twice the start. From 0 they are right, so a start is applied here then.
+/// If the length is negative, the start is added to the pointer here: ICU 72's compare() and
+/// caseCompare() would measure the text from twice the start.
 struct RawOperand {
   RawOperand(const unsigned short* text, ZRLong textStart, ZRLong textLength)
       : units(ToIcu(text)), start(textStart), length(textLength) {
@@ -49,16 +49,16 @@ struct RawOperand {
   std::int32_t length;
 };
 
-/// A run of units that stays where it is.
+/// Units that belong to somebody else.
 struct Units {
   const char16_t* first;
   std::int32_t count;
 };
 
-/// A raw operand whose start has been applied; an empty one for a null text.
+/// A raw operand with its start added to the pointer; empty for a null text.
 ///
-/// For ICU 72's startsWith(), which measures a text from its beginning whatever the start, and
-/// for calls that do not take a null text as an empty one.
+/// For ICU 72's startsWith(), which measures a text from its beginning whatever the start, and for
+/// calls that do not take a null text for an empty one.
 inline Units RawUnits(const unsigned short* text, ZRLong start, ZRLong length) {
   return text ? Units{ToIcu(text + start), RawLength(length)} : Units{nullptr, 0};
 }

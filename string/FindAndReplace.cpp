@@ -9,8 +9,8 @@
 
 namespace {
 
-/// The operand that a raw text is for an edit of `edited`: the caller's own units, without a copy,
-/// unless the edit may change them.
+/// A raw operand for an edit of `edited`: an alias of the caller's units, or a copy if they lie in
+/// the storage of `edited`, where the edit may change them.
 icu::UnicodeString Operand(const icu::UnicodeString& edited, const unsigned short* text,
                            ZRLong start, ZRLong length) {
   const Units units = TerminatedUnits(text, start, length);

@@ -1,6 +1,8 @@
 #include <ZRString/ZRString.h>
 #include <unicode/stringoptions.h>
 
+#include <cstdint>
+
 #include "string/CodeUnits.h"
 #include "string/ProcessCollator.h"
 #include "string/Range.h"
@@ -14,8 +16,8 @@ std::uint32_t IcuOptions(ZRULong options) {
 
 constexpr bool IsWhole(ZRLong start, ZRLong length) { return start == 0 && length == kZRToEnd; }
 
-// The collated comparisons are out of line: inlined, they would make every ICompare() call set up
-// a stack frame for them.
+// The collated comparisons are out of line. Inlined, they would make every ICompare() call set up a
+// stack frame.
 
 [[gnu::noinline]] signed char CollateRanges(const icu::UnicodeString& text, ZRLong start,
                                             ZRLong length, const icu::UnicodeString& srcText,
@@ -25,8 +27,8 @@ constexpr bool IsWhole(ZRLong start, ZRLong length) { return start == 0 && lengt
   return Collate(UnitsOf(text, start, length), UnitsOf(srcText, srcStart, srcLength));
 }
 
-/// From a start of 0 the operand is read as by every other comparison, otherwise up to its zero
-/// unit at most.
+/// With a start of 0 the operand is read as in the other comparisons, with any other start up to
+/// its first zero unit at most.
 [[gnu::noinline]] signed char CollateRawRange(const icu::UnicodeString& text, ZRLong start,
                                               ZRLong length, const unsigned short* src,
                                               ZRLong srcStart, ZRLong srcLength) {

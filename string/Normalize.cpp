@@ -38,8 +38,7 @@ unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
   icu::Normalizer::normalize(current, icuMode, 0, normalized, status);
   if (U_FAILURE(status) || normalized.isBogus())
     return 0;
-  // The result becomes the text as it is. A copy of it into the text could fail, and the text would
-  // be lost.
+  // Takes the result over, because copying it into the text could fail and lose the text.
   if (body_->IsShared()) {
     auto* const body = new ZRStringImplementation(std::move(normalized));
     body_->GiveUpShare();

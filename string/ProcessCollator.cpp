@@ -9,10 +9,11 @@
 
 namespace {
 
-/// Set when the collator is gone for good: a host's static object may compare in its destructor.
+/// Set when the collator has been destroyed. A static object of the host may still compare strings
+/// in its destructor.
 std::atomic<bool> released{false};
 
-/// Written once, under `creation`; read without it.
+/// The pointer is written once, with `creation` locked, and read without the lock.
 struct CollatorOwner {
   ~CollatorOwner() {
     released = true;
@@ -26,7 +27,7 @@ struct CollatorOwner {
 const icu::Collator* ProcessCollator() {
   if (released.load(std::memory_order_relaxed))
     return nullptr;
-  // The clean-ups of local statics run in reverse: the locale goes first, then the collator.
+  // Local statics are destroyed in reverse order: the locale first, then the collator.
   static CollatorOwner owner;
   if (const icu::Collator* existing = owner.collator.load(std::memory_order_acquire))
     return existing;

@@ -7,9 +7,11 @@
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
-// The members of ZRString that read a string, but for ICompare(). The build compiles this file
-// without exceptions: nothing here throws, but ICU's declarations do not say so of ICU, and a
-// noexcept function can end in a jump only to what it knows not to throw.
+// The members of ZRString that read the text, except ICompare().
+//
+// CMakeLists.txt compiles this file with -fno-exceptions. Most members here are noexcept and end in
+// a call of ICU, whose functions do not throw but are not declared noexcept. With exceptions, the
+// compiler could not turn such a call into a jump.
 
 bool ZRString::operator==(const ZRString& other) const noexcept {
   return body_ == other.body_ || TextOf(body_) == TextOf(other.body_);
@@ -78,7 +80,7 @@ signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, con
 
 unsigned char ZRString::StartsWith(const ZRString& src, ZRLong srcStart,
                                    ZRLong srcLength) const noexcept {
-  // ICU 72's startsWith(), unlike its endsWith(), does not pin the operand's range.
+  // ICU 72's startsWith(), unlike its endsWith(), does not clamp the operand's range.
   const icu::UnicodeString& srcText = TextOf(src.body_);
   const std::int32_t first = std::clamp<std::int32_t>(srcStart, 0, srcText.length());
   const std::int32_t count =
@@ -144,7 +146,7 @@ unsigned char ZRString::IsEmpty() const noexcept { return TextOf(body_).isEmpty(
 const unsigned short* ZRString::GetBuffer() const { return FromIcu(TextOf(body_).getBuffer()); }
 
 void ZRString::Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const {
-  // As unsigned numbers, a negative start lies past the end and a length of -1 does too.
+  // As unsigned numbers, a negative start and a length of -1 are past the end.
   const std::uint32_t whole = TextOf(body_).length();
   const std::uint32_t first = start;
   if (first > whole || length < kZRToEnd)

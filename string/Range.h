@@ -10,23 +10,23 @@
 
 #include "string/CodeUnits.h"
 
-/// A length with kZRToEnd resolved. ICU cuts every range of a string at that string's end, so the
-/// greatest length is as good as the string's own and needs no look at it.
+/// The length with -1 resolved, to the greatest length: ICU clamps every range of a string, so the
+/// string's own length need not be looked up.
 constexpr std::int32_t Resolved(ZRLong length) { return length == kZRToEnd ? INT32_MAX : length; }
 
-/// The start and the exclusive limit of a range; ICU cuts what lies past the end of the text.
+/// The start and the exclusive limit of a range, which may lie past the end of the text.
 struct Range {
   std::int32_t start;  // not negative
   std::int32_t limit;  // not negative
 
-  /// 0 when the limit lies before the start.
+  /// 0 if the limit is before the start.
   std::int32_t Length() const { return std::max(limit - start, 0); }
 };
 
 /// The units `start` through `end`, both inclusive.
 ///
-/// ICU 72's own Between members subtract before they pin: a negative start would make the range
-/// longer there, and extremes would overflow. An end that has no successor stands for the end.
+/// Clamped at 0 here because ICU 72's own Between members subtract before they clamp: a negative
+/// start would lengthen the range, and extreme values would overflow.
 constexpr Range Between(ZRLong start, ZRLong end) {
   const auto limit = static_cast<std::int32_t>(static_cast<std::uint32_t>(end) + 1);
   if ((start | limit) >= 0)
@@ -34,15 +34,15 @@ constexpr Range Between(ZRLong start, ZRLong end) {
   return {std::max<std::int32_t>(start, 0), end < 0 ? 0 : end < INT32_MAX ? end + 1 : INT32_MAX};
 }
 
-/// The units of a range of `text`, cut to it.
+/// The units of a range of `text`, clamped to it.
 inline Units UnitsOf(const icu::UnicodeString& text, ZRLong start, ZRLong length) {
   const std::int32_t first = std::clamp<std::int32_t>(start, 0, text.length());
   return {text.getBuffer() + first,
           std::clamp<std::int32_t>(Resolved(length), 0, text.length() - first)};
 }
 
-/// The units of a range of a raw text, cut to that text, which ends before its first zero unit.
-/// Reads no unit behind that zero nor behind the range.
+/// The units of a range of a raw text, clamped to that text, which ends before its first zero unit.
+/// Reads neither past that zero nor past the range.
 inline Units TerminatedUnits(const unsigned short* text, ZRLong start, ZRLong length) {
   if (!text || length < kZRToEnd)
     return {nullptr, 0};

@@ -6,8 +6,8 @@ namespace {
 
 constexpr std::uint8_t kFirst = 0x80;
 
-/// The units of the bytes from kFirst on that are not the bytes themselves. ICU decodes the five
-/// bytes that the code page leaves undefined to the control characters of the same number.
+/// The units of the bytes 0x80 to 0x9F; all other bytes have the unit of the same value. So have
+/// the five bytes that the code page does not define, as in ICU's converter.
 constexpr char16_t kUnits[] = {
     u'\u20AC', 0x81,      u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
     u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', 0x8D,      u'\u017D', 0x8F,

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The length of a terminated text. std::bad_alloc for one that is longer than any string.
+/// The length of a terminated text. Throws std::bad_alloc if no string could be that long.
 template <typename Character>
 ZRLong TerminatedLength(const Character* text) {
   const std::size_t length = std::char_traits<Character>::length(text);
@@ -22,8 +22,8 @@ ZRLong TerminatedLength(const Character* text) {
   return static_cast<ZRLong>(length);
 }
 
-/// A private copy of a shared body, for the caller's share of it. Out of line because most edits
-/// find their body unshared.
+/// Replaces the caller's share of a shared body by a private copy. Out of line because most edits
+/// find the body unshared.
 [[gnu::noinline, gnu::cold]] ZRStringImplementation* PrivateCopyOf(ZRStringHolderCount* shared) {
   auto* const copy = new ZRStringImplementation(TextOf(shared));
   shared->GiveUpShare();

@@ -5,13 +5,13 @@
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
-// Every edit runs in this order: detach, then read the operands' bodies, then resolve lengths, then
-// one ICU call. An operand that is this string itself is so read in its new body.
+// Every edit detaches first, then reads the operands' bodies, resolves lengths and makes one ICU
+// call. So an operand that is this string is read from its new body.
 
 namespace {
 
-/// Gives a text that fills its storage a larger one; false, with the text as it was, without
-/// memory. Left to itself ICU would then lose the text, and with it that of every holder.
+/// Moves a text that fills its storage to a larger one. Returns false, with the text unchanged, if
+/// there is no memory; ICU's getTerminatedBuffer() would lose the text then.
 [[gnu::noinline, gnu::cold]] bool MakeRoomForOneMore(icu::UnicodeString& text) {
   if (text.isBogus())
     return false;
@@ -129,8 +129,7 @@ ZRStringMutator& ZRStringMutator::ReplaceBetween(ZRLong start, ZRLong end, const
 
 ZRStringMutator& ZRStringMutator::Remove(ZRLong start, ZRLong length) {
   CopyOnWrite();
-  // Not the greatest length: from a start of 0 that is another operation of ICU's, which ends its
-  // error state.
+  // Not Resolved(): remove(0, INT32_MAX) is ICU's call for clearing the error state.
   TextOf(body_).remove(start, length == kZRToEnd ? TextOf(body_).length() : length);
   return *this;
 }
