@@ -3,7 +3,7 @@
 # MinGW, from C with Microsoft's ABI (clang and lld-link), and loaded at run time. Everything runs
 # in a Wine that was never used before.
 #
-# ctest starts it with ARCH, CC, CXX, VERSION and BUILD, the build folder, in the environment.
+# ctest starts it with ARCH, VERSION and BUILD, the build folder, in the environment.
 set -euo pipefail
 tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 top=$(cd "$tests/../.." && pwd -P)
