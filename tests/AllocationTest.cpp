@@ -1,4 +1,4 @@
-// What every operation leaves behind when an allocation fails, and how few allocations there are.
+// Makes every allocation of every operation fail in turn, and counts allocations.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringOutput.h>
@@ -13,7 +13,7 @@
 #include "World.h"
 
 #ifdef _WIN32
-#include "windows/ImportedOperators.h"  // a DLL does not see the program's operators
+#include "windows/ImportedOperators.h"  // a DLL does not use the program's operators
 #endif
 
 namespace {
@@ -33,18 +33,18 @@ class Allocation : public testing::Test {
     ReplaceOperators("ZRString.dll");
 #endif
     TakeIcuMemory();
-    World warmed(1);  // ICU and the tests make what they keep, the collator among it
+    World warmed(1);  // ICU and the tests allocate what they keep, such as the collator
     for (int i = 0; i < 20000; ++i)
       warmed.Step(Operations()[i % Operations().size()]);
   }
 
   void SetUp() override {
     if (Allocations([] { ZRString string("a", 0, 1); }) == 0)
-      GTEST_SKIP() << "the library has an operator new of its own here";
+      GTEST_SKIP() << "the library does not use this program's operator new here";
   }
 };
 
-/// Makes one call with an allocation failing. @return what is wrong then
+/// Makes one call in which an allocation fails. @return what is wrong
 std::string Wrong(World& world, const Operation& operation, Form form, bool valid, Memory& memory,
                   int point, bool once, bool& failed) {
   Case c = world.Draw(operation.kind, valid);
@@ -176,7 +176,7 @@ TEST_F(Allocation, ABodyIsOneAndACopyNone) {
             1);
 }
 
-// So a damaged length commits no memory before units arrive for it.
+// A damaged length must not make the reader touch memory for units that never arrive.
 TEST_F(Allocation, ARecordsBufferIsNotTouchedAheadOfItsUnits) {
   struct Watching : Velmar::IStream {
     void Write(const ZRLong*) override {}

@@ -1,4 +1,4 @@
-// Whose the strings in an array are, and what an empty array throws.
+// Who owns the strings in an array, and what an empty array throws.
 #include <ZRString/ZRStringHandles.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
@@ -18,7 +18,7 @@ TEST(Array, AnEmptyOneThrowsWhatItsOwnVectorWould) {
   }
 }
 
-TEST(Array, OnlyDeleteAllEndsStrings) {
+TEST(Array, OnlyDeleteAllDestroysStrings) {
   static int destroyed = 0;
   struct RecordedMutator : ZRStringMutator {
     ~RecordedMutator() override { ++destroyed; }

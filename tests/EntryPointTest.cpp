@@ -16,7 +16,7 @@ namespace {
 
 using EntryPoint = BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID);
 
-/// What the system's loader keeps of a library in this process.
+/// The system loader's entry for a library in this process.
 LDR_DATA_TABLE_ENTRY* LoadedLibrary(const char* name) {
   const HMODULE module = GetModuleHandleA(name);
   LIST_ENTRY* const list = &NtCurrentTeb()->ProcessEnvironmentBlock->Ldr->InMemoryOrderModuleList;
@@ -28,7 +28,7 @@ LDR_DATA_TABLE_ENTRY* LoadedLibrary(const char* name) {
   throw std::runtime_error(name);
 }
 
-/// Counts the calls of a library's entry point that tell of threads. One at a time.
+/// Counts the thread notifications to a library's entry point. Use one object at a time.
 class ThreadCalls {
  public:
   explicit ThreadCalls(const char* library) : field_(LoadedLibrary(library)->Reserved3[0]) {
@@ -54,7 +54,7 @@ class ThreadCalls {
 
   static std::atomic<int> calls;
   static EntryPoint original;
-  void*& field_;  // the entry's pointer to the entry point, which the public header does not name
+  void*& field_;  // the loader entry's pointer to the entry point, unnamed in the public header
 };
 
 std::atomic<int> ThreadCalls::calls;
@@ -62,10 +62,10 @@ EntryPoint ThreadCalls::original;
 
 }  // namespace
 
-// For Windows alone: elsewhere the library has no entry point. ICU's library is not spared the
-// calls, which shows that they are seen.
+// Only Windows has entry points. ICU's library does get the notifications, which shows that the
+// test can see them.
 TEST(EntryPoint, IsNotCalledForThreads) {
-  const ZRString string("a", 0, 1);  // or the library would not be in this process
+  const ZRString string("a", 0, 1);  // makes the linker keep the library
   EXPECT_EQ(ThreadCalls("icuuc" U_ICU_VERSION_SHORT ".dll").While(5), 10);
   EXPECT_EQ(ThreadCalls("ZRString.dll").While(5), 0);
 }

@@ -1,4 +1,4 @@
-// Every status of every handle function, and which of a string's own operations they reach.
+// Every status of every handle function, and calls of overridden virtual members.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
@@ -19,17 +19,17 @@
 
 namespace {
 
-/// An argument with its type taken away: a pointer or an integer.
+/// An argument without its type: a pointer or an integer.
 using Word = std::uintptr_t;
 
-/// A handle function with the types of its parameters taken away.
+/// A handle function without the types of its parameters.
 using Function = std::function<ZRLong(const std::vector<Word>&)>;
 
 template <typename... Types, std::size_t... Index>
 Function Erased(ZRLong (*function)(Types...), std::index_sequence<Index...>) {
   return [function](const std::vector<Word>& words) {
     EXPECT_EQ(words.size(), sizeof...(Types));
-    return function((Types)(words[Index])...);  // the static or the reinterpreting cast
+    return function((Types)(words[Index])...);  // a static or a reinterpret cast
   };
 }
 
@@ -41,7 +41,7 @@ Function Erased(ZRLong (*function)(Types...)) {
 Word W(int value) { return static_cast<Word>(value); }
 Word W(const volatile void* pointer) { return reinterpret_cast<Word>(pointer); }
 
-/// A parameter: a valid argument, the invalid ones, and the status then if not by its position.
+/// A parameter: a valid argument, invalid ones, and their status unless the position gives it.
 struct Parameter {
   Word valid;
   std::vector<Word> invalid;
@@ -51,7 +51,7 @@ struct Parameter {
 const struct {
   const char* name;  // of the plain function
   Function plain, member;
-  const char* parameters;  // their kinds
+  const char* parameters;  // the kind of each
 } kRows[] = {
 #define ZR_ROW(name, member, parameters) {#name, Erased(&::name), Erased(&member), parameters},
 #define ZR_IMMUTABLE(name, ...) ZR_ROW(name, ZRAccessorStringDKInterfaceImpl::name, __VA_ARGS__)
@@ -121,7 +121,7 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
 
 namespace {
 
-/// A host's own string, which the virtual operations reach.
+/// A string class of a host, which overrides the virtual members.
 struct Overriding : ZRString {
   Overriding() : ZRString(Make(u"abc")) {}
   const unsigned short* GetBuffer() const override { return Raw(u"xyz"); }
@@ -133,7 +133,7 @@ struct Overriding : ZRString {
 
 }  // namespace
 
-TEST(Handles, VirtualOperationsReachTheObjectsOwn) {
+TEST(Handles, OverriddenMembersAreCalled) {
   const Overriding string;
   unsigned short* buffer = nullptr;
   EXPECT_EQ(ZRStringGetBuffer(string.GetZRStringRef(), &buffer), 0);

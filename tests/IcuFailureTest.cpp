@@ -26,7 +26,7 @@ int Collated(const char16_t* left, const char16_t* right) {
   return Make(left).ICompare(0, -1, Make(right), 0, -1, 3);
 }
 
-/// Made before the process collator, and so destroyed after it.
+/// Created before the process collator, and so destroyed after it.
 struct LastComparison {
   ~LastComparison() {
     if (Collated(u"a", u"b") != 0)
@@ -36,10 +36,10 @@ struct LastComparison {
 
 }  // namespace
 
-/// Stands before ICU's own, for the library too, and may fail.
+/// Replaces ICU's function, for the library too, and can fail.
 icu::Collator* icu::Collator::createInstance(const icu::Locale& locale, UErrorCode& status) {
   ++creations;
-  std::this_thread::sleep_for(std::chrono::milliseconds(50));  // so that first uses coincide
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));  // lets first uses overlap
   createdFor = locale.getName();
   if (failing) {
     status = U_MEMORY_ALLOCATION_ERROR;
@@ -53,7 +53,7 @@ icu::Collator* icu::Collator::createInstance(const icu::Locale& locale, UErrorCo
   return original(locale, status);
 }
 
-/// Stands before ICU's own and always fails.
+/// Replaces ICU's function and always fails.
 void icu::Normalizer::normalize(const icu::UnicodeString&, UNormalizationMode, std::int32_t,
                                 icu::UnicodeString& result, UErrorCode& status) {
   result.remove();

@@ -1,4 +1,4 @@
-// The conversions of ZRStringInterop.h against ICU's, and strings in the standard library.
+// Compares the conversions of ZRStringInterop.h with ICU's; uses strings with the standard library.
 
 #include <ZRString/ZRStringInterop.h>
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ std::string IcuUtf8(const std::u16string& units) {
       .toUTF8String(bytes);
 }
 
-// The texts lie in memory of exactly their size, where a sanitizer sees a read past the end.
+// The texts are in memory of exactly their size, so that a sanitizer sees reads past the end.
 
 bool SameFromUtf8(const std::string& bytes) {
   const std::vector<char> exact(bytes.begin(), bytes.end());
@@ -61,7 +61,7 @@ ZRStringMutator InErrorState() {
 }  // namespace
 
 TEST(Interop, EveryCodePointAndUnpairedSurrogate) {
-  // Up to 40 letters before each character: it stands in and behind blocks of ASCII.
+  // Up to 40 letters before each character, so that it comes inside and after blocks of ASCII.
   constexpr std::uint32_t kTogether = 64;
   for (std::uint32_t first = 0; first <= 0x10FFFF; first += kTogether) {
     std::u16string units;
@@ -84,7 +84,7 @@ TEST(Interop, EveryShortSequenceOfBytes) {
     ForEachSequence(all, length, [](const std::string& bytes) {
       ASSERT_TRUE(SameFromUtf8(bytes)) << testing::PrintToString(bytes);
     });
-  // Those of three in one text for each two first bytes, a letter between them.
+  // Sequences of three bytes: one text for each two first bytes, with letters in between.
   ForEachSequence(all, 2, [&](const std::string& two) {
     std::string bytes;
     for (const char third : all)
@@ -109,7 +109,7 @@ TEST(Interop, FourBytesAndFourUnitsAtTheEdgesOfTheirClasses) {
   }
 }
 
-// Texts are converted in pieces and blocks: the same at every place in one and around their ends.
+// Texts are converted in pieces and blocks, so every character is tried at each place in one.
 TEST(Interop, EveryPlaceAndLength) {
   for (const char* part : {"a", "\xC3\xA9", "\xE4\xB8\xAD", "\xF0\x9F\x98\x80", "a\xE4", "\xFF"}) {
     for (int place = 0; place < 40; ++place) {
@@ -180,7 +180,7 @@ TEST(Interop, KeysOfContainers) {
 TEST(Interop, Printing) {
   ZRStringMutator open(u"abc"_zr);
   open.GetBuffer(-1);
-  ZRStringMutator cut(u"\U00010000"_zr);  // whose second half may still be behind it
+  ZRStringMutator cut(u"\U00010000"_zr);  // its second half may stay in memory
   cut.Truncate(1);
   const struct {
     ZRString string;

@@ -1,4 +1,4 @@
-// What a host compiled against: sizes, the slots of virtual operations, handles as addresses.
+// What compiled programs rely on: sizes, slots of virtual members, handles as addresses.
 #include <Velmar/IStream.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
@@ -15,8 +15,8 @@ static_assert(offsetof(UniStr255, units) == 8);
 
 namespace {
 
-/// The slot of a virtual member function. A pointer to one holds, in the C++ ABI of GCC and Clang,
-/// its offset in the table, plus 1 on most processors but not on ARM.
+/// The slot of a virtual member function. In the C++ ABI of GCC and Clang, a pointer to such a
+/// member holds the offset in the table, plus 1 except on ARM.
 template <typename Pointer>
 std::ptrdiff_t Slot(Pointer member) {
   std::ptrdiff_t value;
@@ -27,7 +27,7 @@ std::ptrdiff_t Slot(Pointer member) {
 }  // namespace
 
 TEST(Layout, VirtualOperationsKeepTheirSlots) {
-  // The destructor has the first two there.
+  // The destructor has the first two slots.
   EXPECT_EQ(Slot(&ZRString::GetBuffer), 2);
   EXPECT_EQ(Slot(&ZRString::Extract), 3);
   EXPECT_EQ(Slot(&ZRString::ExtractBetween), 4);

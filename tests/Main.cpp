@@ -1,10 +1,10 @@
-// The test programs' entry: ICU's default locale, and the arguments that are not the framework's.
+// main() of the test programs: sets ICU's default locale and keeps the program's own arguments.
 #include <gtest/gtest.h>
 #include <unicode/uloc.h>
 
 std::vector<std::string> programArguments;
 
-// Collation and case mapping follow ICU's default locale, which the environment would choose.
+// Collation and case mapping follow ICU's default locale, which would depend on the environment.
 int main(int argc, char** argv) {
   UErrorCode status = U_ZERO_ERROR;
   uloc_setDefault("en_US", &status);

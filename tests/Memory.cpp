@@ -1,4 +1,5 @@
-// The process's operator new, which the library's allocations reach; a DLL's, where it imports one.
+// Replaces operator new. On Linux the library uses this one too, on Windows only after
+// ReplaceOperators() has patched what the DLL imports.
 #include "Memory.h"
 
 #include <cstring>

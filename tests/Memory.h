@@ -1,4 +1,4 @@
-// Memory under a test's control: what is held is counted, and an allocation may fail.
+// Memory under a test's control: blocks are counted, and allocations can be made to fail.
 #ifndef ZRSTRING_TESTS_MEMORY_H
 #define ZRSTRING_TESTS_MEMORY_H
 
@@ -6,12 +6,12 @@
 
 #include <cstdlib>
 
-/// The allocations of one source.
+/// One source of memory.
 struct Memory {
-  /// Lets `point` allocations pass and the next one fail, or all from there on.
+  /// Lets `point` allocations succeed and then one fail, or all that follow.
   void Fail(int point, bool once) { left = point, failsOnce = once, failed = false; }
 
-  /// Ends that. @return whether one failed
+  /// Lets all allocations succeed again. @return whether one failed
   bool Recover() { return left = -1, failed; }
 
   void* Allocate(std::size_t size) {
@@ -33,7 +33,7 @@ struct Memory {
   }
 
   long allocations = 0, live = 0;
-  int left = -1;  // -1: all that are asked for
+  int left = -1;  // how many still succeed; -1: all
   bool failsOnce = false, failed = false;
 };
 

@@ -1,5 +1,5 @@
-// The library against the model: random operations on strings that share bodies, and on an array.
-// Arguments: the number of operations and the seed, both of which a failure prints.
+// Compares random operations, on strings that share bodies and on an array, with a model.
+// Arguments: the number of operations and the seed; a failure prints both.
 #include "World.h"
 
 #include <gtest/gtest.h>

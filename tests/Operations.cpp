@@ -1,4 +1,4 @@
-// The table of operations: how a member and a handle function are called, and the model of both.
+// The table of operations: calls of a member and of its handle function, and their model.
 #include <ZRString/ZRStringStream.h>
 
 #include <new>
@@ -17,7 +17,7 @@ Text Spliced(const Case& c, const Text& range, const Text& part) {
   return c.t.text.substr(0, first) + part + c.t.text.substr(first + range.size());
 }
 
-/// The index that a search inside the target's own range gives.
+/// The result of a search in the target's range.
 ZRLong Found(const Case& c, std::size_t at) {
   return c.o.part.empty() || at == Text::npos
              ? -1
@@ -41,7 +41,7 @@ Text Mapped(Text text, Map map) {
 char16_t Lower(char16_t unit) { return unit >= 'A' && unit <= 'Z' ? unit + 32 : unit; }
 char16_t Upper(char16_t unit) { return unit >= 'a' && unit <= 'z' ? unit - 32 : unit; }
 
-/// The order of the units that worlds are made of: of the characters first, then of their variants.
+/// Collation of the units that worlds consist of: by characters first, then by their variants.
 int Collated(const Text& left, const Text& right) {
   const Text order = u" *\u20AC2\u00B2abcxyz";
   const auto character = [&](char16_t unit) {
@@ -69,7 +69,7 @@ Text Give(long long number) {
 
 Text Give(Text text) { return text; }
 
-// Operands as a call takes them; each says which units it is about.
+// Operands in the forms that calls take. Each function also sets the units that are meant.
 
 const unsigned short* Raw(Case& c) { return c.o.part = c.raw.part, c.raw.units; }
 
@@ -89,7 +89,7 @@ const unsigned short* NewRaw(Case& c) {
   return c.p.part = Cut(c.y.part, c.p.start, c.p.length), c.y.units;
 }
 
-/// Collated, a raw operand is a terminated text unless it is taken from its start.
+/// For collation a raw operand must be terminated if its start is not 0.
 signed char CompareRaw(Case& c) {
   if (c.options != 3)
     return c.t->ICompare(c.t.start, c.t.length, Raw(c), c.raw.start, c.raw.length, 0);
@@ -118,13 +118,13 @@ ZRStringMutator& Editable(Case& c) {
   return static_cast<ZRStringMutator&>(*c.o);
 }
 
-/// What fills the target's text up to the capacity.
+/// The units that pad the target to the capacity.
 Text Padding(Case& c) { return c.p.part = Text(std::max(c.capacity - c.Size(), 0LL), c.unit); }
 
 /// The index of the unit that SetCharAt() replaces.
 std::size_t Pinned(const Case& c) { return std::clamp<long long>(c.t.start, 0, c.Size() - 1); }
 
-/// The rule for a range of a string: the whole of it is shared.
+/// A range of a string. A range that is the whole string shares its body.
 Text RangeOf(Case& c) {
   const auto size = static_cast<ZRLong>(c.o.text.size());
   if (c.o.start == 0 && (c.o.length == -1 || c.o.length == size))
@@ -132,7 +132,7 @@ Text RangeOf(Case& c) {
   return c.o.part;
 }
 
-/// Takes over what a create function made.
+/// Takes ownership of the string that a create function made.
 ZRLong Made(Case& c, ZRLong status) {
   if (c.newString)
     c.made.reset(const_cast<ZRString*>(&GetZRStringFromRef(c.newString)));
@@ -141,7 +141,7 @@ ZRLong Made(Case& c, ZRLong status) {
   return status;
 }
 
-constexpr std::size_t kRoom = 200;  // in a caller's array, filled with # and used from unit 2
+constexpr std::size_t kRoom = 200;  // of a caller's array, filled with #; calls write from unit 2
 
 template <typename Call>
 Text Written(Call call) {
@@ -154,7 +154,7 @@ Text Filled(bool written, const Text& part) {
   return written ? u"##" + part + u'\0' + Text(kRoom - 3 - part.size(), u'#') : Text(kRoom, u'#');
 }
 
-/// Writes Zy and a zero unit through the open buffer; whether what was there before still was.
+/// Writes Zy and a zero unit into the open buffer. @return whether it held the old text
 bool FillBuffer(const Case& c, unsigned short* units, ZRLong capacity) {
   const Text& text = c.t.text;
   const bool kept = units && std::equal(text.begin(), text.end(), units) && capacity >= c.capacity;
@@ -163,7 +163,7 @@ bool FillBuffer(const Case& c, unsigned short* units, ZRLong capacity) {
   return kept;
 }
 
-/// Whether what `write` puts into a stream is what `read` takes from it.
+/// Whether `read` takes exactly what `write` puts into a stream.
 template <typename Write, typename Read>
 bool PassedOn(Write write, Read read) {
   Recorder stream;
@@ -177,25 +177,25 @@ bool Inside(const Case& c) {
   return c.index >= 0 && c.index < static_cast<long long>(c.entries.size());
 }
 
-/// Whether an array function took an index that may lie outside.
+/// Whether an array function accepted an index that may be outside the array.
 bool Took(ZRLong status) {
   EXPECT_TRUE(status == 0 || status == 12) << status;
   return status == 0;
 }
 
-/// Puts a new string, a copy of the operand, into the array, which owns its entries here.
+/// Puts a new copy of the operand into the array, which owns its entries here.
 template <typename Call>
 bool Stored(Case& c, Call call) {
   auto entry = std::make_unique<ZRString>(*c.o);
   return call(entry.get()) && entry.release();
 }
 
-/// The entry at a valid index, whose ownership passes to the caller.
+/// The entry at a valid index; the caller becomes its owner.
 std::unique_ptr<ZRString> Dropped(Case& c) {
   return std::unique_ptr<ZRString>(Inside(c) ? (*c.a)[c.index] : nullptr);
 }
 
-/// Stored(), in the place of an entry, which ends.
+/// As Stored(), but replaces an entry, which is destroyed.
 template <typename Call>
 bool Replacing(Case& c, Call call) {
   const ZRString* const replaced = Inside(c) ? (*c.a)[c.index] : nullptr;
@@ -205,7 +205,7 @@ bool Replacing(Case& c, Call call) {
   return stored;
 }
 
-/// The text of an entry; 12 question marks, as the status, where there is none.
+/// The text of an entry, or 12 (the status) question marks if there is none.
 template <typename Get>
 Text EntryText(Get get) {
   try {
@@ -222,8 +222,8 @@ bool SameEntries(const Case& c, const ZRStringPtrArray& copy) {
 
 }  // namespace
 
-// Arguments: the target's range, an operand with its range, the same as a handle, with inclusive
-// ends, the second operand, and raw ones.
+// Arguments: the target's range, an operand with its range, its handle with its range, inclusive
+// ends, the second operand, and raw operands.
 #define ZR_OWN c.t.start, c.t.length
 #define ZR_SRC *c.o, c.o.start, c.o.length
 #define ZR_HANDLE c.o.Handle(), c.o.start, c.o.length
@@ -236,7 +236,7 @@ bool SameEntries(const Case& c, const ZRStringPtrArray& copy) {
 #define ZR_BYTES \
   reinterpret_cast<const unsigned char*>(c.bytes.units), c.bytes.start, c.bytes.length
 
-// Forms of a call. What gives nothing else gives 1, a status of 0 as well.
+// Forms of a call. A call without a result gives 1, and so does a status of 0.
 #define ZR_IS(...) [](Case& c) -> Text { return Give(__VA_ARGS__); }
 #define ZR_EDIT(...) ZR_IS(&c.m->__VA_ARGS__ == c.m)
 #define ZR_DO(...) ZR_IS((__VA_ARGS__, 1))

@@ -1,4 +1,4 @@
-// Strings in standard streams of code units: width, fill and adjustment, states, without a locale.
+// Strings in standard streams of code units: width, fill, adjustment and states, without a locale.
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>
 #include <gtest/gtest.h>

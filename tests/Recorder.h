@@ -1,4 +1,4 @@
-// A stream that records the calls made on it, plays calls back, and throws where it is told to.
+// A stream that records calls, plays calls back, and throws at a chosen call.
 #ifndef ZRSTRING_TESTS_RECORDER_H
 #define ZRSTRING_TESTS_RECORDER_H
 
@@ -9,7 +9,7 @@
 #include <stdexcept>
 #include <vector>
 
-/// One call of a stream: which transfer interface, and the value.
+/// One call of a stream: its transfer interface and its value.
 struct Call {
   char type;  // 'l' ZRLong, 'u' ZRULong, 's' unsigned short
   long long value;
@@ -22,7 +22,7 @@ inline std::ostream& operator<<(std::ostream& out, const Call& call) {
 
 using Calls = std::vector<Call>;
 
-/// Exhausted, it stores nothing.
+/// Stores nothing if there is nothing left to play back.
 struct Recorder : Velmar::IStream {
   explicit Recorder(Calls played = {}) : input(std::move(played)) {}
 

@@ -1,4 +1,4 @@
-// Records: the exact calls made on the stream, and what is read from damaged and failing ones.
+// Records: the exact calls made on the stream, and reading damaged and failing streams.
 #include <ZRString/ZRStringStream.h>
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Entries are the array's own.
+/// An array that owns its strings.
 struct OwningArray : ZRStringPtrArray {
   OwningArray(const std::vector<Text>& texts = {}) {
     for (const Text& text : texts)

@@ -1,4 +1,4 @@
-// Texts as the tests write and read them, what ranges of them mean, and what strings share.
+// The texts of the tests, a model of ranges, and access to the body of a string.
 #ifndef ZRSTRING_TESTS_TEXT_H
 #define ZRSTRING_TESTS_TEXT_H
 
@@ -29,7 +29,7 @@ inline Text TextOf(const ZRString& string) {
   return units ? Text(units, units + string.GetLength()) : Text();
 }
 
-/// A string is a virtual table and a body; a body begins with its count.
+/// A string is a pointer to a virtual table and one to a body; a body begins with its count.
 inline const std::int32_t* BodyOf(const ZRString& string) {
   const std::int32_t* body;
   std::memcpy(&body, reinterpret_cast<const char*>(&string) + sizeof(void*), sizeof body);
@@ -38,7 +38,7 @@ inline const std::int32_t* BodyOf(const ZRString& string) {
 
 inline int Holders(const ZRString& string) { return *BodyOf(string); }
 
-/// A raw text in memory of exactly its size, where a sanitizer sees a read past either end.
+/// A raw text in memory of exactly its size, so that a sanitizer sees reads past either end.
 class ExactText {
  public:
   ExactText(const Text& text, bool terminated)
@@ -54,7 +54,7 @@ class ExactText {
   std::unique_ptr<unsigned short[]> units_;
 };
 
-// What ranges mean, written down in 64 bits and without ICU.
+// A model of ranges, in 64 bits and without ICU.
 
 inline Text CutBetween(const Text& text, ZRLong start, ZRLong end) {
   const auto size = static_cast<long long>(text.size());

@@ -110,8 +110,9 @@ TEST(Unicode, EveryByteDecodesAsByIcusConverter) {
   EXPECT_EQ(TextOf(ZRString(bytes.data(), 0, 256)), Text(expected.getBuffer(), expected.length()));
 }
 
-// Unicode's own conformance data. A line's columns are a source text and its NFC, NFD, NFKC and
-// NFKD; all five columns have the same compatibility forms, and so have their canonical ones.
+// Unicode's conformance data. The columns of a line are a source text and its NFC, NFD, NFKC and
+// NFKD forms. All five have the same compatibility forms; the first three, and the last two, have
+// the same canonical forms.
 TEST(Unicode, NormalizationConforms) {
   EXPECT_TRUE(NormalizesTo(u"e\u0301\u0316", kZRNormalizationFCD, u"e\u0316\u0301"));
   EXPECT_TRUE(NormalizesTo(u"\u00E9", kZRNormalizationFCD, u"\u00E9"));

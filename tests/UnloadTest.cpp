@@ -5,7 +5,7 @@
 
 #include "Memory.h"
 
-// Loading and unloading is the system's own affair, so this test has a word for each.
+// Each system has its own functions to load and unload a library.
 #ifdef _WIN32
 #include <windows.h>
 #define ZR_LIBRARY "ZRString.dll"
@@ -48,13 +48,13 @@ int Collated(void* library) {
 
 }  // namespace
 
-// The collator, and a locale with a keyword, are ICU blocks: one that its clean-up missed would
-// stay behind at each round.
+// The collator and a locale with a keyword allocate ICU memory. If a clean-up missed one of them,
+// blocks would be left after each round.
 TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
   UErrorCode status = U_ZERO_ERROR;
   TakeIcuMemory();
   icu::Locale::setDefault(icu::Locale("de@collation=phonebook"), status);
-  delete icu::Collator::createInstance(status);  // ICU's own data stay loaded from here on
+  delete icu::Collator::createInstance(status);  // loads the data that ICU then keeps
   ASSERT_TRUE(U_SUCCESS(status));
   long blocksAfterFirst = 0;
   for (int round = 0; round < 50; ++round) {

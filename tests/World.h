@@ -1,4 +1,4 @@
-// A handful of strings that share bodies, an array, and plain texts that say what they must hold.
+// A few strings that share bodies, an array, and the plain texts that they must hold.
 #ifndef ZRSTRING_TESTS_WORLD_H
 #define ZRSTRING_TESTS_WORLD_H
 
@@ -13,14 +13,14 @@
 
 #include "Text.h"
 
-/// A string of the world, its text, and its body, which strings that share it have in common.
+/// A string, the text that it must hold, and its body.
 struct Slot {
   std::unique_ptr<ZRString> string;
   Text text;
   const std::int32_t* body;
 };
 
-/// A string as a call takes it: whole or by a range, whose units are `part`.
+/// A string as an operand: whole, or a range of it, whose units are `part`.
 struct Operand {
   Slot* slot;
   ZRString* string;
@@ -33,7 +33,7 @@ struct Operand {
   ZRStringRef__* Handle() const { return string->GetZRStringRef(); }
 };
 
-/// A raw text and a range of it, whose units are `part`.
+/// A raw text as an operand: a range of it, whose units are `part`.
 template <typename Unit>
 struct RawOperand {
   const Unit* units;
@@ -41,10 +41,10 @@ struct RawOperand {
   Text part;
 };
 
-/// The objects and arguments of one call, and what it and the model make of them.
+/// The objects and arguments of one call, and the results of the call and of the model.
 struct Case {
-  Operand t, o, p, e;  // the target, two operands, either perhaps the target, and a mutator
-  ZRStringMutator* m;  // the target, where it is one
+  Operand t, o, p, e;               // the target; two operands, each perhaps the target; a mutator
+  ZRStringMutator* m;               // the target, or null if it is no mutator
   RawOperand<unsigned short> raw;   // perhaps in the target's own units
   RawOperand<unsigned short> z, y;  // terminated; `part` is the whole
   RawOperand<char> bytes;
@@ -55,15 +55,15 @@ struct Case {
   int mode;
   ZRStringPtrArray* a;
 
-  // What the call gives.
+  // The results of the call.
   ZRStringRef__* newString = nullptr;
   ZRMutableStringRef__* newMutable = nullptr;
   std::unique_ptr<ZRString> made;
   ZRLong number = -9;
   unsigned char flag = 9;
 
-  // What the model gives: the target's text in t.text, the array's entries, whose body the target
-  // shares then, if not its own, and whether its body is as it was.
+  // The results of the model, besides the target's text in t.text: the array's entries, the string
+  // whose body the target then shares, and whether the target keeps its body.
   std::vector<Text> entries;
   const Slot* shared = nullptr;
   bool kept = false;
@@ -75,15 +75,15 @@ struct Case {
 
 enum Kind {
   kQuery,    // changes nothing
-  kEdit,     // changes the target, a mutator; when ICU fails, its text is in the error state
-  kAttempt,  // changes the target; when ICU fails, gives 0 and changes nothing
-  kMake,     // makes a string, or a mutator for a target that is one, which takes its place
-  kSum,      // the same by members that edit a copy, or by a create function
+  kEdit,     // changes the target, a mutator; if ICU fails, its text is in the error state
+  kAttempt,  // changes the target; if ICU fails, returns 0 and changes nothing
+  kMake,     // makes a string, or a mutator if the target is one, that replaces the target
+  kSum,      // as kMake, by members that edit a copy or by a create function
   kArray,    // changes the array
   kAppend,   // changes the array entry by entry
 };
 
-using Form = Text (*)(Case&);  // gives a text or the digits of a number
+using Form = Text (*)(Case&);  // returns a text or the digits of a number
 
 struct Operation {
   const char* name;
@@ -105,7 +105,7 @@ class World {
 
   unsigned Below(std::size_t limit) { return static_cast<unsigned>(random_() % limit); }
 
-  /// Arguments for an operation: `valid` ones are those that the handle functions take.
+  /// Draws the arguments of an operation; `valid` ones are accepted by the handle functions.
   Case Draw(Kind kind, bool valid) {
     const auto slot = [&](Slot& of) -> Operand {
       const ZRLong start = Below(3) == 0 ? 0 : Edge(valid), length = Below(3) ? Edge(valid) : -1;
@@ -149,7 +149,7 @@ class World {
     return c;
   }
 
-  /// Draws, calls and settles an operation. @return what is wrong then, empty for nothing
+  /// Draws, calls and checks an operation. @return what is wrong; empty if nothing is
   std::string Step(const Operation& operation) {
     const std::size_t members = operation.members.size();
     const std::size_t form = Below(members + operation.functions.size());
@@ -160,7 +160,7 @@ class World {
     return wrong.empty() ? "" : operation.name + (", form " + std::to_string(form)) + ": " + wrong;
   }
 
-  /// Takes over what the model says of a call that has been made. @return what is wrong then
+  /// Compares a call with the model, whose state it then updates. @return what is wrong
   std::string Settle(const Operation& operation, Case& c, const Text& result) {
     const Text expected = operation.model(c);
     Slot& slot = *c.t.slot;
@@ -178,7 +178,7 @@ class World {
     if (operation.kind != kQuery && operation.kind < kArray && !c.kept) {
       slot.body = nullptr;
       const std::int32_t* const body = BodyOf(*slot.string);
-      // An edit takes no other body for a target that holds its own alone and is no operand.
+      // An edit keeps the target's body if nothing shares it and the target is no operand.
       if (sharedBody ? body != sharedBody : HoldersOf(body) || (body != before && !takesAnother))
         return "the target has another body than it must";
       slot.body = body;
@@ -193,7 +193,7 @@ class World {
     return difference;
   }
 
-  /// What a call that threw or refused has changed; kAppend may have appended some entries.
+  /// Checks that a failed call has changed nothing; kAppend may have appended some entries.
   std::string Unchanged(const Operation& operation, const Case& c) {
     if (operation.kind == kAppend && array_.Size() <= 2 * c.entries.size())
       entries_.insert(entries_.end(), c.entries.begin(),
@@ -201,7 +201,7 @@ class World {
     return Difference();
   }
 
-  /// What a call has changed beside losing the target's text, which then reads as empty.
+  /// Checks that a failed edit has only lost the target's text, which then reads as empty.
   std::string Lost(const Case& c) {
     c.t.slot->body = BodyOf(*c.t.string);
     c.t.slot->text.clear();
@@ -209,9 +209,9 @@ class World {
   }
 
  private:
-  static constexpr std::size_t kStrings = 3, kSlots = 6, kGiven = 6;  // the last slots: mutators
+  static constexpr std::size_t kStrings = 3, kSlots = 6, kGiven = 6;  // then come mutators
 
-  /// Raw texts in memory of their size: short ones, and longer ones than ICU keeps in the body.
+  /// Raw texts in memory of exactly their size: short ones, and ones too long for the body.
   static RawOperand<unsigned short> Given(std::size_t index, bool terminated) {
     static const Text texts[kGiven] = {u"",
                                        u"ab",
@@ -234,7 +234,7 @@ class World {
     const auto size = static_cast<ZRLong>(raw.part.size());
     raw.start = Below(2) ? 0 : Below(size + 1);
     raw.length = toTheZero && Below(2) ? Pick({-1, -1, -2, INT_MIN}) : Below(size - raw.start + 1);
-    const bool none = sizeof(Unit) == 1 && raw.length < -1;  // not to the zero, for bytes
+    const bool none = sizeof(Unit) == 1 && raw.length < -1;  // for bytes, only -1 is to the zero
     raw.part = raw.part.substr(raw.start, none ? 0 : raw.length);
   }
 

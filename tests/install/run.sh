@@ -45,7 +45,8 @@ compare_files() {
 # dynamic ENTRY FILE: the values of a kind of entry in a file's dynamic section.
 dynamic() { readelf -d "$2" | sed -nE "s/.*\(($1)\).*\[(.*)\]/\2/p"; }
 
-# The program must print what is in the file EXPECTED, and need this library but not ICU.
+# run_program PROGRAM EXPECTED: checks that PROGRAM prints the contents of the file EXPECTED, and
+# that it needs this library but not ICU.
 run_program() {
   local program=$1 expected=$2 needed
   LD_LIBRARY_PATH=$prefix/$LIBDIR "$program" > "$work/output" || fail "$program ended with status $?"
@@ -55,8 +56,8 @@ run_program() {
   ! grep -i icu <<< "$needed" || fail "$program was linked with ICU"
 }
 
-# compile_alone HEADER COMPILER OPTION...: compiles a file which includes nothing but HEADER; no
-# header of ICU may come in with it.
+# compile_alone HEADER COMPILER OPTION...: compiles a file that includes only HEADER, and checks
+# that HEADER includes none of ICU.
 compile_alone() {
   local header=$1 unit=$work/alone.cpp
   shift
@@ -66,13 +67,13 @@ compile_alone() {
     ! "$@" -I "$prefix/include" -E "$unit" > "$work/preprocessed"; then
     fail "$header alone: $*"
   elif grep -m 3 'unicode/' "$work/preprocessed"; then
-    fail "$header brings a header of ICU in"
+    fail "$header includes a header of ICU"
   fi
 }
 
 rm -rf "$work"
 mkdir -p "$work"
-# What the first program prints stands on the page that shows it.
+# The output of the first program is on the page that shows it.
 # shellcheck disable=SC2016 # the marks of a code block, not commands
 sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d' > "$work/road.txt"
 [ -s "$work/road.txt" ] || fail "docs/index.md has no output"
@@ -88,7 +89,7 @@ find "$work/runtime" "$work/installed" \( ! -type d -o -name ZRString \) > "$wor
 install_into "$work/installed"
 mv "$work/installed" "$prefix"
 [ -z "$(dynamic 'RPATH|RUNPATH' "$prefix/$LIBDIR/libZRString.so.1.0.0")" ] ||
-  fail "the library has a search path of its own"
+  fail "the library has an RPATH or RUNPATH"
 ! grep -rF "$BUILD" "$prefix/$LIBDIR/cmake" "$prefix/$LIBDIR/pkgconfig" ||
   fail "the installed files name the build folder"
 
