@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # On a bare Debian 12 and a bare Debian 13, or the one that is named: follows "Install it" of the
-# README to the letter, then runs ./run-example and ./run-tests there, each twice. Takes about an
-# hour and must be run as root.
+# README to the letter, then runs ./run-example and ./run-tests there, each twice. Takes half
+# an hour and must be run as root.
 # usage: tests/bare-systems.sh [bookworm|trixie]
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
