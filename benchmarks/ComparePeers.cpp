@@ -30,7 +30,7 @@ std::u16string Text(std::size_t length, std::u16string_view end) {
   return text.replace(length - end.size(), std::u16string::npos, end);
 }
 
-/// The words in an order that is random, but the same in every run; none without the list.
+/// The words in a random order that is the same in every run; empty without the list.
 std::vector<std::u16string> Words() {
   std::vector<std::u16string> words;
   std::ifstream file(kWordList);

@@ -8,7 +8,7 @@
 
 // Makes every call a fixed number of times and has callgrind dump the instructions of each: a dump
 // named "name|icu" for an ICU call, then one named "name|library" for each call that maps to it.
-// Only what lies between the two toggles is counted; run it with --collect-atstart=no.
+// Only the code between the two toggles is counted; run it with --collect-atstart=no.
 
 namespace {
 

@@ -15,7 +15,7 @@ constexpr bool CapacityOrCurrent(ZRLong capacity) { return capacity >= -1; }
 constexpr bool AtLeastOne(ZRLong count) { return count >= 1; }
 constexpr bool Untested() { return true; }
 
-/// The status of the first entry that is false, kZRStatusSuccess when none is.
+/// The status of the first entry that is false; kZRStatusSuccess if none is.
 template <typename... Entries>
 constexpr ZRLong FirstInvalid(Entries... valid) {
   if ((valid && ...))
