@@ -46,7 +46,10 @@ class MemoryStream : public Velmar::IStream {
  private:
   template <typename Value>
   void Put(const Value* value) {
-    bytes_.append(reinterpret_cast<const char*>(value), sizeof *value);
+    if (bytes_.size() - place_ < sizeof *value)
+      bytes_.resize(2 * bytes_.size() + 64);
+    std::memcpy(bytes_.data() + place_, value, sizeof *value);
+    place_ += sizeof *value;
   }
 
   template <typename Value>
@@ -55,7 +58,7 @@ class MemoryStream : public Velmar::IStream {
     place_ += sizeof *value;
   }
 
-  std::string bytes_;
+  std::vector<char> bytes_;
   std::size_t place_ = 0;
 };
 

@@ -12,6 +12,7 @@ import math
 import pathlib
 import re
 import sys
+import textwrap
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PAGES = [ROOT / 'README.md', ROOT / 'docs/performance.md']
@@ -55,8 +56,9 @@ def table(rows):
 def system(run):
     context = run['context']
     repetitions = 1 + max(result.get('repetition_index', 0) for result in run['benchmarks'])
-    return (f"Least CPU time of {repetitions} repetitions, all in one run: {context['processor']}, "
-            f"{context['mhz_per_cpu'] / 1000:.1f} GHz; {context['versions']}.")
+    return textwrap.fill(
+        f"Least CPU time of {repetitions} repetitions, all in one run: {context['processor']}, "
+        f"{context['mhz_per_cpu'] / 1000:.1f} GHz; {context['versions']}.", 100)
 
 
 def picture(rows):
