@@ -25,6 +25,10 @@ inline unsigned short* FromIcu(char16_t* units) {
   return const_cast<unsigned short*>(FromIcu(const_cast<const char16_t*>(units)));
 }
 
+/// The length of the longest text that ICU 72 allocates storage for. Of its own calls, those that
+/// leave room to grow write past that storage if the text is a few units longer.
+constexpr std::int32_t kMaxLength = 0x7FFFFFF5;
+
 /// The length of a raw operand with -1 for every negative length. Some of ICU 72's members read
 /// only -1 as "up to the terminating zero unit".
 inline std::int32_t RawLength(ZRLong length) { return length < 0 ? -1 : length; }

@@ -17,7 +17,7 @@ namespace {
 template <typename Character>
 ZRLong TerminatedLength(const Character* text) {
   const std::size_t length = std::char_traits<Character>::length(text);
-  if (length > INT32_MAX)
+  if (length > kMaxLength)
     ThrowBadAlloc();
   return static_cast<ZRLong>(length);
 }
@@ -75,8 +75,10 @@ void ZRString::CreateNewImplementation() { body_ = new ZRStringImplementation();
 
 void ZRString::CreateNewImplementation(const unsigned short* text, ZRLong start, ZRLong length) {
   const Units raw = RawUnits(text, start, length);
-  body_ = new ZRStringImplementation(raw.first,
-                                     raw.count < 0 ? TerminatedLength(raw.first) : raw.count);
+  const std::int32_t count = raw.count < 0 ? TerminatedLength(raw.first) : raw.count;
+  if (count > kMaxLength)
+    ThrowBadAlloc();
+  body_ = new ZRStringImplementation(raw.first, count);
 }
 
 void ZRString::CreateNewImplementation(const char* text, ZRLong length) {

@@ -53,7 +53,10 @@ ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZR
 
 ZRStringMutator& ZRStringMutator::SetTo(const unsigned short* text, ZRLong length) {
   CopyOnWrite();
-  TextOf(body_).setTo(ToIcu(text), length);
+  if (length > kMaxLength && text)
+    TextOf(body_).setToBogus();
+  else
+    TextOf(body_).setTo(ToIcu(text), length);
   return *this;
 }
 

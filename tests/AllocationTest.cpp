@@ -110,6 +110,7 @@ TEST_F(Allocation, FailureInOutputAndInCreatingAnArray) {
   ownMemory.Fail(0, true);
   EXPECT_THROW(stream << string, std::bad_alloc);
   EXPECT_TRUE(stream.str().empty() && stream.good());
+  EXPECT_THROW(ZRString(Raw(u"abc"), 0, INT_MAX), std::bad_alloc);  // more than ICU can hold
   ownMemory.Fail(0, true);
   EXPECT_EQ(ZRStringPtrArrayCreate(&array), 12);
   EXPECT_EQ(array, nullptr);

@@ -52,6 +52,8 @@ TEST(ErrorState, EndsOnlyWithANewText) {
     const char16_t* text;  // null: still in the error state
   } rows[] = {
       {"SetTo", [](M& m, const ZRString& s) { m.SetTo(s, 1, 1); }, u"y"},
+      {"SetTo too much", [](M& m, const ZRString& s) { m = s, m.SetTo(Raw(u"x"), INT_MAX); },
+       nullptr},
       {"assignment", [](M& m, const ZRString& s) { m = s; }, u"xyz"},
       {"Truncate to nothing", [](M& m, const ZRString&) { m.Truncate(0); }, u""},
       {"Remove the greatest length", [](M& m, const ZRString&) { m.Remove(0, INT32_MAX); }, u""},
