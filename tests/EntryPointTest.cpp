@@ -1,3 +1,4 @@
+// Windows only: what loading the DLL does to the process.
 #include <ZRString/ZRString.h>
 #include <gtest/gtest.h>
 #include <unicode/uvernum.h>

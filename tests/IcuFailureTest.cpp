@@ -1,3 +1,4 @@
+// What a failing ICU leaves: the text of a string, and a collator that is still to be made.
 #include <ZRString/ZRStringMutator.h>
 #include <dlfcn.h>
 #include <gtest/gtest.h>

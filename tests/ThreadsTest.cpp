@@ -1,3 +1,4 @@
+// Several threads at their first and later collated comparisons.
 #include <ZRString/ZRString.h>
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// Loads and unloads the library again and again, and looks for what stays behind.
 #include <ZRString/ZRStringHandles.h>
 #include <gtest/gtest.h>
 #include <unicode/coll.h>
