@@ -119,7 +119,7 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// Replaces every occurrence of a range of `oldText` inside [start, start + length) by a range
   /// of `newText`. Occurrences are what Find() finds. Replacements are not searched again. An empty
-  /// old range changes nothing.
+  /// old range changes nothing, nor does an operand in ICU's error state.
   ///
   /// The other overloads take one or both operands raw. Such an operand is read up to its first
   /// zero unit at most, even if its length says more, and its range is clamped to that text: -1
