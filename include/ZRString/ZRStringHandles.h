@@ -28,8 +28,9 @@
 /// 7. **Exceptions.** Exceptions, `std::bad_alloc` included, propagate to the caller, and no
 ///    out-parameter is written; only the functions that create arrays return a status instead. A
 ///    caller that cannot catch C++ exceptions cannot survive running out of memory. A create
-///    function throws also when it is ICU that has no memory. An edit does not: the text is lost
-///    then, and reads as empty (see ICU's error state in ZRStringMutator).
+///    function, and an edit that first has to copy shared text, throw also when it is ICU that has
+///    no memory. An edit that ICU cannot complete loses the text, which then reads as empty (see
+///    ICU's error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
 ///    one thread at a time.
 /// 9. **Calling convention.** #ZR_CALL: `__cdecl` on 32-bit Windows.
