@@ -117,16 +117,6 @@ wordlist: cannot open missing/list' \
 expect 'the look-up' 0 '11 entries, 10 kept
 entry 7' "$examples/lookup" "$work/words" \
   "$(printf 'c\364t\351' | iconv -f WINDOWS-1252 -t "${ARGUMENTS:-WINDOWS-1252}")"
-expect 'a look-up in vain' 0 '11 entries, 10 kept
-not in the list; it would be entry 11' "$examples/lookup" "$work/words" zz
-printf 'M2\nm\262\nm2\n' > "$work/apart"
-expect 'case apart in linguistic order' 0 '3 entries, 2 kept
-entry 1' "$examples/lookup" "$work/apart" m2
-expect 'no file to look up in' 2 'lookup: cannot read missing' \
-  "$examples/lookup" "$work/missing" a
-expect 'a folder to look up in' 2 "lookup: cannot read $work" "$examples/lookup" "$work" a
-expect 'no word' 2 'lookup: usage: lookup FILE WORD (both in windows-1252)' \
-  "$examples/lookup" "$work/words"
 
 [ "$failures" -eq 0 ] && echo "the examples print what they should"
 exit $((failures > 0))

@@ -1,6 +1,7 @@
-"""Tests of examples/python/lookup.py. The argument is its path."""
+"""Tests of the look-up in Python and in C. The arguments are lookup.py and the program."""
 
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -31,15 +32,19 @@ ROWS = [
 
 
 class Lookup(unittest.TestCase):
-    def run_it(self, *arguments, **variables):
-        environment = dict(os.environ, LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", **variables)
-        done = subprocess.run(
-            [sys.executable, LOOKUP, *arguments],
-            env=environment,
-            stdout=subprocess.PIPE,
-            stderr=subprocess.PIPE,
-        )
-        return done.returncode, done.stdout.decode(), done.stderr.decode()
+    def check(self, arguments, expected):
+        """Runs both. `expected` is what they print, or the sentence that they fail with."""
+        environment = dict(os.environ, LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1")
+        in_c = [PROGRAM, *(argument.encode("windows-1252") for argument in arguments)]
+        for command in [[sys.executable, SCRIPT, *arguments], in_c]:
+            with self.subTest(command):
+                done = subprocess.run(command, env=environment, capture_output=True)
+                printed, complaint = done.stdout.decode(), done.stderr.decode()
+                if done.returncode == 0:
+                    self.assertEqual((printed, complaint), (expected.replace("\n", os.linesep), ""))
+                    continue
+                self.assertEqual((done.returncode, printed, complaint.count("\n")), (2, "", 1))
+                self.assertRegex(complaint, "^lookup: " + expected)
 
     def test_lists(self):
         with tempfile.TemporaryDirectory() as directory:
@@ -48,26 +53,22 @@ class Lookup(unittest.TestCase):
                 with open(path, "wb") as file:
                     file.write(data)
                 with self.subTest(name):
-                    expected = (0, printed.replace("\n", os.linesep), "")
-                    self.assertEqual(self.run_it(path, word), expected)
+                    self.check([path, word], printed)
 
     def test_failures_are_sentences_and_status_2(self):
         with tempfile.TemporaryDirectory() as directory:
             missing = os.path.join(directory, "missing")
-            for arguments, variables, sentence in [
-                ((), {}, "usage: lookup.py FILE WORD"),
-                ((missing,), {}, "usage: lookup.py FILE WORD"),
-                ((missing, "a", "b"), {}, "usage: lookup.py FILE WORD"),
-                ((missing, "a"), {}, "cannot read " + missing),
-                ((directory, "a"), {}, "cannot read " + directory),
-                ((), {"ZRSTRING_LIBRARY": missing}, "cannot load the ZRString library (" + missing),
-            ]:
-                with self.subTest(sentence):
-                    status, printed, complaint = self.run_it(*arguments, **variables)
-                    self.assertEqual((status, printed, complaint.count("\n")), (2, "", 1))
-                    self.assertTrue(complaint.startswith("lookup: " + sentence), complaint)
+            for arguments in [], [missing], [missing, "a", "b"]:
+                self.check(arguments, "usage: lookup(.py)? FILE WORD")
+            self.check([missing, "a"], "cannot read " + re.escape(missing))
+            self.check([directory, "a"], "cannot read " + re.escape(directory))
+            environment = dict(os.environ, ZRSTRING_LIBRARY=missing)
+            command = [sys.executable, SCRIPT]
+            done = subprocess.run(command, env=environment, capture_output=True)
+            self.assertEqual((done.returncode, done.stdout), (2, b""))
+            self.assertIn(b"lookup: cannot load the ZRString library", done.stderr)
 
 
 if __name__ == "__main__":
-    LOOKUP = sys.argv.pop(1)
-    unittest.main(verbosity=2)
+    SCRIPT, PROGRAM = sys.argv[1:]
+    unittest.main(argv=sys.argv[:1], verbosity=2)
