@@ -8,7 +8,7 @@ readme_block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d;
 # What the first program of the pages, docs/snippets/road, prints.
 # shellcheck disable=SC2016 # the marks of a block of code, not commands
 road_output() {
-  sed -n '/{#output}/,/{#rules}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d'
+  sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d'
 }
 
 # header_examples: the code in the comments of the classes, as one C++ program.
