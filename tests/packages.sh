@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # On a bare Debian 12 and a bare Debian 13, or the one that is named: makes the Debian packages, has
-# lintian check them, and installs and uses them where nothing else is. Takes minutes and must be run
-# as root.
+# lintian check them, and installs and uses them on systems that have nothing else. Takes minutes
+# and must be run as root.
 # usage: tests/packages.sh [bookworm|trixie]
 # shellcheck disable=SC2016 # what the shells and dpkg in there expand
 set -euo pipefail

@@ -57,8 +57,8 @@ struct ZRStringHolderCount {
 /// @endcode
 ///
 /// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings made from a
-/// handle and strings made from the whole of another string share its body, which takes a pointer
-/// and an addition and no allocation. The last holder destroys the body. Only ZRStringMutator
+/// handle and strings made from the whole of another string share the body of their source, which
+/// takes an addition and no allocation. The last holder destroys the body. Only ZRStringMutator
 /// changes text, and it first gets a body of its own.
 ///
 /// **Units and ranges.** Starts, lengths and indices count UTF-16 code units. A range is a start

@@ -28,8 +28,8 @@
 /// 7. **Exceptions.** Exceptions, `std::bad_alloc` included, propagate to the caller, and no
 ///    out-parameter is written; only the functions that create arrays return a status instead. A
 ///    caller that cannot catch C++ exceptions cannot survive running out of memory. A create
-///    function, and an edit that first has to copy shared text, throw also when it is ICU that has
-///    no memory. An edit that ICU cannot complete loses the text, which then reads as empty (see
+///    function, and an edit that first has to copy shared text, also throw if ICU runs out of
+///    memory. An edit that ICU cannot complete loses the text, which then reads as empty (see
 ///    ICU's error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
 ///    one thread at a time.

@@ -63,6 +63,6 @@ for dll in "$package"/bin/*.dll; do
   name=$(basename "$dll")
   mv "consumer/bin/$name" apart/
   ! WINEDEBUG=err+module run consumer/bin/road.exe > missing.txt || die "$name is not needed"
-  grep -o "Library $name .*not found" missing.txt || die "nobody says that $name is missing"
+  grep -o "Library $name .*not found" missing.txt || die "no message says that $name is missing"
   mv "apart/$name" consumer/bin/
 done

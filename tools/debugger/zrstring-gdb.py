@@ -1,8 +1,8 @@
 """Shows ZRString, ZRStringMutator and ZRStringPtrArray, and handles to them, in GDB.
 
-Installed below GDB's auto-load directory under the library's full path, GDB loads this file with
-the library: share/gdb/auto-load/<library directory>/libZRString.so.<version>-gdb.py. From a build
-tree: `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fields instead.
+GDB loads this file with the library if it is installed below GDB's auto-load directory under the
+library's full path: share/gdb/auto-load/<library directory>/libZRString.so.<version>-gdb.py. With a
+build tree, use `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fields instead.
 
     "text" (length 4, holders 1)        the text is cut at `set print elements`
 

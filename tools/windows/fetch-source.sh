@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Unpacks a Debian source package into FOLDER. Uses package lists of its own, so that the machine's
-# apt configuration stays as it is.
+# Unpacks a Debian source package into FOLDER. Keeps the package lists for that to itself: the
+# machine's apt configuration stays as it is.
 # usage: fetch-source.sh PACKAGE VERSION FOLDER
 set -euo pipefail
 package=$1 version=$2 folder=$3
