@@ -71,6 +71,18 @@ std::string Wrong(World& world, const Operation& operation, Form form, bool vali
 
 }  // namespace
 
+// std::stable_sort allocates by the nothrow form and frees by the plain one, which only the address
+// sanitizer notices.
+TEST_F(Allocation, EveryFormOfOperatorNewIsReplaced) {
+  EXPECT_EQ(Allocations([] {
+              operator delete(operator new(1));
+              operator delete[](operator new[](1));
+              operator delete(operator new(1, std::nothrow));
+              operator delete[](operator new[](1, std::nothrow));
+            }),
+            4);
+}
+
 TEST_F(Allocation, FailureChangesNothingOrIsInTheErrorState) {
   int failures = 0;
   for (const Operation& operation : Operations()) {

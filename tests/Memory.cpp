@@ -13,7 +13,16 @@ void* operator new(std::size_t size) {
   throw std::bad_alloc();
 }
 
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  void* const memory = ownMemory.Allocate(size);
+  return memory ? std::memset(memory, kFresh, size) : nullptr;
+}
+
 void* operator new[](std::size_t size) { return operator new(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  return operator new(size, std::nothrow);
+}
+
 void operator delete(void* memory) noexcept { ownMemory.Free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { ownMemory.Free(memory); }
 void operator delete[](void* memory) noexcept { ownMemory.Free(memory); }
