@@ -45,11 +45,12 @@ for example in wordlist lookup; do
 done
 TMPDIR=$work ARGUMENTS=UTF-8 "$top/tests/check-examples.sh" wrappers
 
-say "a C program with Microsoft's ABI, through ZRString.lib"
-clang --target="$ARCH-pc-windows-msvc" ${stdcall:+"$stdcall"} -c "$tests/handles.c" -o linked.obj \
-  -I "$package/include" -I "$BUILD/tests/windows"
-lld-link /nologo /safeseh:no /subsystem:console /entry:Start /out:consumer/bin/linked.exe linked.obj \
-  "$package/lib/ZRString.lib" "/usr/$ARCH-w64-mingw32/lib/"lib{kernel32,msvcrt}.a
+say "a C program with Microsoft's ABI, through find_package and ZRString.lib"
+logged microsoft.log cmake -G Ninja -S "$tests/microsoft" -B microsoft -DARCH="$ARCH" \
+  -DCMAKE_C_FLAGS="$stdcall" -DCMAKE_PREFIX_PATH="$package" -DPLAIN_NAMES="$BUILD/tests/windows"
+logged microsoft.log cmake --build microsoft
+grep -q '/ZRString\.lib' microsoft/build.ninja || die "find_package did not choose ZRString.lib"
+cp microsoft/linked.exe consumer/bin/
 calls="$(wc -l < "$top/tests/exports-plain.txt") functions, status 0, length 4"
 run consumer/bin/linked.exe | diff <(echo "$calls") -
 
