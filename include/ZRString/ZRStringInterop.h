@@ -27,8 +27,7 @@
 /// The shared library contains none of this: the header is compiled into the programs that include
 /// it and uses only the public members of ZRString and ZRStringMutator. Besides the functions below
 /// it specializes `std::hash`, so that strings can be keys of unordered containers, and, with
-/// C++20's
-/// `<format>`, `std::formatter`, which formats a string like a `std::string` of its UTF-8.
+/// `<format>` of C++20, `std::formatter`, which formats a string like a `std::string` of its UTF-8.
 ///
 /// **Ill-formed text.** In UTF-8, each maximal subpart of an ill-formed sequence becomes one
 /// U+FFFD, as the Unicode standard recommends and ICU does. In UTF-16, each unpaired surrogate
