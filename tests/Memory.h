@@ -4,27 +4,25 @@
 
 #include <unicode/uclean.h>
 
+#include <climits>
 #include <cstdlib>
+#include <cstring>
+#include <utility>
 
-/// One source of memory.
+constexpr unsigned char kFresh = 0xA5;  // what memory holds before it is written
+
 struct Memory {
-  /// Lets `point` allocations succeed and then one fail, or all that follow.
-  void Fail(int point, bool once) { left = point, failsOnce = once, failed = false; }
+  /// Lets `point` allocations succeed and then `count` fail.
+  void Fail(long point, long count) { first = allocations + point, limit = first + count; }
 
   /// Lets all allocations succeed again. @return whether one failed
-  bool Recover() { return left = -1, failed; }
+  bool Recover() { return allocations > std::exchange(first, LONG_MAX); }
 
   void* Allocate(std::size_t size) {
-    ++allocations;
-    if (left == 0) {
-      failed = true;
-      left = failsOnce ? -1 : 0;
-      return nullptr;
-    }
-    left -= left > 0;
-    void* const memory = std::malloc(size ? size : 1);
+    const long index = allocations++;
+    void* const memory = index >= first && index < limit ? nullptr : std::malloc(size);
     live += memory != nullptr;
-    return memory;
+    return memory ? std::memset(memory, kFresh, size) : nullptr;
   }
 
   void Free(void* memory) {
@@ -33,25 +31,18 @@ struct Memory {
   }
 
   long allocations = 0, live = 0;
-  int left = -1;  // how many still succeed; -1: all
-  bool failsOnce = false, failed = false;
+  long first = LONG_MAX, limit = 0;  // the allocations that fail
 };
 
-constexpr int kFresh = 0xA5;  // what operator new's memory holds before it is written
+inline Memory heap;
 
-extern Memory ownMemory;  // of operator new
-inline Memory icuMemory;
-
+/// Makes ICU use it, too.
 inline void TakeIcuMemory() {
   UErrorCode status = U_ZERO_ERROR;
   u_setMemoryFunctions(
-      nullptr, [](const void*, std::size_t size) { return icuMemory.Allocate(size); },
-      [](const void*, void* memory, std::size_t size) {
-        if (!memory)
-          return icuMemory.Allocate(size);
-        return icuMemory.left == 0 ? nullptr : std::realloc(memory, size);
-      },
-      [](const void*, void* memory) { icuMemory.Free(memory); }, &status);
+      nullptr, [](const void*, std::size_t size) { return heap.Allocate(size); },
+      [](const void*, void* memory, std::size_t size) { return std::realloc(memory, size); },
+      [](const void*, void* memory) { heap.Free(memory); }, &status);
 }
 
 #endif

@@ -210,8 +210,8 @@ template <typename Get>
 Text EntryText(Get get) {
   try {
     return TextOf(*get());
-  } catch (const std::out_of_range&) {
-    return Text(12, u'?');
+  } catch (const std::out_of_range& error) {
+    return Text(12, std::strcmp(error.what(), "invalid vector<T> subscript") ? u'!' : u'?');
   }
 }
 
@@ -440,24 +440,32 @@ const std::vector<Operation>& Operations() {
      {ZR_STORED(Stored, (c.a->PushBack(entry), true))},
      {ZR_STORED(Stored, ZRStringPtrArrayPushBack(c.A(), entry->GetZRStringRef()) == 0)}},
     {"Erase", kArray, ZR_IS(Inside(c) ? (c.entries.erase(c.entries.begin() + c.index), 1) : 0),
-     {ZR_IS((Dropped(c).reset(), c.a->Erase(c.index), Inside(c)))},
+     {ZR_IS((Dropped(c).reset(), c.a->Erase(c.index), Inside(c))),
+      ZR_IS((Dropped(c).reset(),
+             Inside(c) && c.a->Erase(c.a->Begin() + c.index) == c.a->Begin() + c.index))},
      {ZR_IS((Dropped(c).reset(), ZRStringPtrArrayErase(c.A(), c.index) == 0))}},
-    {"DeleteAll", kArray, ZR_DO(c.entries.clear()), {ZR_DO(c.a->DeleteAll())},
+    {"DeleteAll", kArray, ZR_DO(c.entries.clear()),
+     {ZR_DO(c.a->PushBack(nullptr), c.a->DeleteAll())},
      {ZR_DONE(ZRStringPtrArrayDeleteAll(c.A()))}},
     {"a copy of the array", kArray, [](Case&) -> Text { return Give(1); },
      {ZR_IS(SameEntries(c, ZRStringPtrArray(*c.a))),
       [](Case& c) -> Text {
         ZRStringPtrArray copy;
+        const ZRStringPtrArray& itself = copy;
         copy.PushBack(&*c.t);
         copy = *c.a;
-        return Give(SameEntries(c, copy));
+        copy = itself;
+        const bool same = SameEntries(c, copy);
+        return copy.EraseAll(), Give(same && copy.Empty());
       }},
      {[](Case& c) -> Text {
        ZRStringPtrArrayRef__* copy = nullptr;
-       if (ZRStrPtrArrCreateFromZRStrPtrArr(c.A(), &copy) == 12)
+       if (ZRStrPtrArrCreateFromZRStrPtrArr(c.A(), &copy) == 12 && !copy)
          throw std::bad_alloc();
-       const bool same = SameEntries(c, *GetZRStringPtrArrayFromRef(copy));
-       return Give(ZRStringPtrArrayDestroy(copy) == 0 && same);
+       const ZRStringPtrArray& array = *GetZRStringPtrArrayFromRef(copy);
+       const bool same = SameEntries(c, array) && ZRStringPtrArrayEraseAll(copy) == 0;
+       const bool erased = array.Empty();
+       return Give(ZRStringPtrArrayDestroy(copy) == 0 && same && erased);
      }}},
     {"an array record", kAppend,
      [](Case& c) -> Text {

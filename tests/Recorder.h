@@ -1,58 +1,44 @@
-// A stream that records calls, plays calls back, and throws at a chosen call.
+// A stream that records calls, plays calls back, and throws when there are no more.
 #ifndef ZRSTRING_TESTS_RECORDER_H
 #define ZRSTRING_TESTS_RECORDER_H
 
 #include <Velmar/IStream.h>
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
-/// One call of a stream: its transfer interface and its value.
-struct Call {
-  char type;  // 'l' ZRLong, 'u' ZRULong, 's' unsigned short
-  long long value;
-  bool operator==(const Call& other) const { return type == other.type && value == other.value; }
-};
+/// The type and the value of each call: 'l' ZRLong, 'u' ZRULong, 's' unsigned short.
+using Calls = std::vector<std::pair<char, long long>>;
 
-inline std::ostream& operator<<(std::ostream& out, const Call& call) {
-  return out << call.type << call.value;
-}
-
-using Calls = std::vector<Call>;
-
-/// Stores nothing if there is nothing left to play back.
+/// Throws std::out_of_range after `room` writes and after the last call that is played back.
 struct Recorder : Velmar::IStream {
-  explicit Recorder(Calls played = {}) : input(std::move(played)) {}
+  explicit Recorder(Calls played = {}, std::size_t writes = SIZE_MAX)
+      : input(std::move(played)), room(writes) {}
 
-  void Write(const ZRLong* value) override { Put({'l', *value}); }
-  void Write(const ZRULong* value) override { Put({'u', *value}); }
-  void Write(const unsigned short* value) override { Put({'s', *value}); }
+  void Write(const ZRLong* value) override { Put('l', *value); }
+  void Write(const ZRULong* value) override { Put('u', *value); }
+  void Write(const unsigned short* value) override { Put('s', *value); }
   void Read(ZRLong* value) override { Get('l', value); }
   void Read(ZRULong* value) override { Get('u', value); }
   void Read(unsigned short* value) override { Get('s', value); }
 
-  void Put(const Call& call) {
-    if (output.size() == throwAt)
-      throw std::runtime_error("stream");
-    output.push_back(call);
+  void Put(char type, long long value) {
+    if (output.size() == room)
+      throw std::out_of_range("written");
+    output.emplace_back(type, value);
   }
 
   template <typename Value>
   void Get(char type, Value* value) {
-    if (consumed == throwAt)
-      throw std::runtime_error("stream");
     EXPECT_EQ(*value, 0) << "a variable holds 0 before it is read";
-    if (consumed < input.size()) {
-      EXPECT_EQ(input[consumed].type, type);
-      *value = static_cast<Value>(input[consumed].value);
-    }
-    ++consumed;
+    EXPECT_EQ(input.at(consumed).first, type);
+    *value = static_cast<Value>(input[consumed++].second);
   }
 
   Calls input, output;
-  std::size_t consumed = 0, throwAt = SIZE_MAX;
+  std::size_t consumed = 0, room;
 };
 
 #endif

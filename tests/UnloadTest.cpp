@@ -62,13 +62,13 @@ TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
     SCOPED_TRACE(round);
     void* const library = Load();
     ASSERT_NE(library, nullptr);
-    const long before = icuMemory.live;
+    const long before = heap.live;
     ASSERT_EQ(Collated(library), -1);
-    EXPECT_GT(icuMemory.live, before);
+    EXPECT_GT(heap.live, before);
     Unload(library);
     ASSERT_FALSE(IsLoaded());
     if (round == 0)
-      blocksAfterFirst = icuMemory.live;
-    EXPECT_EQ(icuMemory.live, blocksAfterFirst);
+      blocksAfterFirst = heap.live;
+    EXPECT_EQ(heap.live, blocksAfterFirst);
   }
 }
