@@ -10,18 +10,11 @@
 #include "Recorder.h"
 #include "World.h"
 
-#ifdef _WIN32
-#include "windows/ImportedOperators.h"  // a DLL does not use the program's operators
-#endif
-
 namespace {
 
 class Allocation : public testing::Test {
  protected:
   static void SetUpTestSuite() {
-#ifdef _WIN32
-    ReplaceOperators("ZRString.dll");
-#endif
     TakeIcuMemory();
     World warmed(1);  // ICU and the tests allocate what they keep, such as the collator
     for (int i = 0; i < 20000; ++i)

@@ -1,5 +1,5 @@
-// Replaces operator new. On Linux the library uses this one, too; on Windows only after
-// ReplaceOperators() has patched what the DLL imports.
+// Replaces operator new. On Linux the library uses this one too, on Windows only because of
+// windows/Operators.cpp.
 #include "Memory.h"
 
 #include <new>

@@ -11,10 +11,11 @@ trap 'rm -rf --one-file-system "$work"' EXIT
 trap 'exit 130' INT
 trap 'exit 143' TERM
 
-# make_debian CODENAME FOLDER: a system of essential packages and apt in FOLDER.
+# make_debian CODENAME FOLDER [OPTION...]: a system of essential packages and apt in FOLDER, with
+# mmdebstrap's options.
 make_debian() {
   apt-config dump Acquire | grep -E '^Acquire::(https?::|Check-|Retries)' > "$work/apt.conf" || true
-  mmdebstrap --mode=root --variant=minbase --aptopt="$work/apt.conf" \
+  mmdebstrap --mode=root --variant=minbase --aptopt="$work/apt.conf" "${@:3}" \
     --keyring=/usr/share/keyrings/debian-archive-keyring.gpg "$1" "$2" "$("$top/tools/debian-mirror")"
 }
 
