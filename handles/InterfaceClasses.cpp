@@ -1,4 +1,4 @@
-// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 
 #include <ZRString/ZRStringInterfaces.h>
 

@@ -8,7 +8,7 @@
 /// says what each does and returns. The classes have no data, and no objects of them are made; DK
 /// and CDK are part of their published names.
 
-// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 
 /// Immutable strings. Every member has the name of its plain function.
 class ZR_API ZRAccessorStringDKInterfaceImpl {

@@ -1,25 +1,29 @@
 #!/usr/bin/env python3
-"""Writes the code that repeats the functions of ZRStringHandles.h: the three interface classes,
-and the rows of the test of all statuses.
+"""Writes what is derived from the declarations and comments of ZRStringHandles.h.
 
-    write-interfaces.py [--check]
+    write-derived.py [--check]
 
-Run it after a change of that header and commit what it writes:
-include/ZRString/ZRStringInterfaces.h, handles/InterfaceClasses.cpp and tests/HandleRows.inc. --check
-only compares, and fails if they are out of date.
+These are the three interface classes (include/ZRString/ZRStringInterfaces.h and
+handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), and the
+tables in docs/statuses.md and docs/ranges.md. Run it after a change of that header and commit what
+it writes. --check only compares, and fails if a file is out of date.
 """
 
 import dataclasses
 import pathlib
+import re
 import sys
 
 import handle_header
+from handle_header import FIRST_PARAMETER, INDEX_OUTSIDE
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 HANDLES = ROOT / "include/ZRString/ZRStringHandles.h"
 INTERFACES = ROOT / "include/ZRString/ZRStringInterfaces.h"
 CLASSES = ROOT / "handles/InterfaceClasses.cpp"
 ROWS = ROOT / "tests/HandleRows.inc"
+STATUSES = ROOT / "docs/statuses.md"
+RANGES = ROOT / "docs/ranges.md"
 WIDTH = 100
 
 
@@ -77,20 +81,19 @@ HEADER_BEGIN = """\
 /// says what each does and returns. The classes have no data, and no objects of them are made; DK
 /// and CDK are part of their published names.
 
-// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 """
 
 SOURCE_BEGIN = """\
-// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 
 #include <ZRString/ZRStringInterfaces.h>
 
 #include "string/Handles.h"
 """
 
-
 ROWS_BEGIN = """\
-// Written by tools/write-interfaces.py: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 """
 
 # The kind of argument in HandlesTest.cpp for each test of a parameter. For tests for null, the type
@@ -103,6 +106,30 @@ NOT_NULL = {
     "const unsigned short*": "units",
     "const unsigned char*": "bytes",
     "const char*": "bytes",
+}
+
+# A table in a page is between these lines.
+TABLE_BEGIN = "<!-- written by tools/write-derived.py -->\n\n"
+TABLE_END = "\n<!-- end of what is written -->\n"
+
+# How the table of statuses words the causes.
+CONDITIONS = {
+    "null": "null",
+    "negative": "&lt;&nbsp;0",
+    "below -1": "&lt;&nbsp;−1",
+    "below 1": "&lt;&nbsp;1",
+    "no memory": "no memory",
+    "the array is empty": "array empty",
+    "index is outside the array": "index outside",
+}
+
+# What -1 means where it does not mean "to the end".
+MINUS_ONE = {
+    ("ZRStringCreateFromUniChars", "length"): "up to the zero unit",
+    ("ZRStringCreateFromLocalString", "length"): "up to the zero byte",
+    ("ZRMutableStringRemoveBetween", "end"): "through the end",
+    ("ZRMutableStringGetBufferWithCapacity", "minCapacity"): "the current capacity",
+    ("ZRMutableStringReleaseBuffer", "newLength"): "up to the first zero unit",
 }
 
 
@@ -182,7 +209,7 @@ def definition(interface, function):
 def kinds(function):
     """The kind of each parameter. An array's index is tested last: after it nothing may follow."""
     tested = {test.parameter: test.cause for test in function.tests.values()}
-    outside = function.tests.get(handle_header.INDEX_OUTSIDE)
+    outside = function.tests.get(INDEX_OUTSIDE)
     for position, (kind, name) in enumerate(function.parameters, 1):
         if name in tested:
             yield TESTED.get(tested[name]) or NOT_NULL.get(kind, "out")
@@ -206,6 +233,56 @@ def assignment(name):
     return f"{head}\n    {parameter} default;"
 
 
+def table_row(cells):
+    return f"| {' | '.join(cells)} |\n"
+
+
+def statuses_table(functions):
+    statuses = {status for function in functions for status in function.tests} - {INDEX_OUTSIDE}
+    columns = [*range(FIRST_PARAMETER, max(statuses) + 1), INDEX_OUTSIDE]
+    table = table_row(["Function", *map(str, columns)]) + "|---" * (len(columns) + 1) + "|\n"
+    group = None
+    for function in functions:
+        if function.group != group:
+            group = function.group
+            table += f"| **{group}** " + "|" * (len(columns) + 1) + "\n"
+        cells = [f"{function.name}()"]
+        for status in columns:
+            test = function.tests.get(status)
+            if test:
+                cause = CONDITIONS[test.cause]
+                cells.append(f"{test.parameter} {cause}" if test.parameter else cause)
+            else:
+                cells.append("–" if status - FIRST_PARAMETER < len(function.parameters) else "")
+        table += table_row(cells)
+    return table
+
+
+def minus_one_table(functions):
+    table = table_row(["Function", "Accepts −1", "Refuses −1"]) + "|---|---|---|\n"
+    for function in functions:
+        accepted, refused = {}, []  # meaning -> parameters
+        for status, test in function.tests.items():
+            if test.cause == "below -1":
+                meaning = MINUS_ONE.get((function.name, test.parameter), "to the end")
+                accepted.setdefault(meaning, []).append(f"`{test.parameter}`")
+            elif test.cause != "null" and re.search("([lL]ength|^count)$", test.parameter or ""):
+                refused.append(f"`{test.parameter}`: status {status}")
+        if accepted or refused:
+            meanings = [f"{', '.join(names)}: {meaning}" for meaning, names in accepted.items()]
+            table += table_row([f"{function.name}()", "; ".join(meanings), ", ".join(refused)])
+    return table
+
+
+def page_with(path, table):
+    """The page, with `table` in place of the one that it holds."""
+    before, begin, rest = path.read_text(encoding="utf-8").partition(TABLE_BEGIN)
+    _, end, after = rest.partition(TABLE_END)
+    if not end:
+        sys.exit(f"{path} has no place for a table")
+    return before + begin + table + end + after
+
+
 def written(functions):
     header, source, rows = HEADER_BEGIN, SOURCE_BEGIN, ROWS_BEGIN
     for interface in INTERFACE_CLASSES:
@@ -219,7 +296,13 @@ def written(functions):
         source += "".join(definition(interface, function) for function in members)
         source += interface.more_definitions
         rows += "".join(row(interface, function) for function in members)
-    return {INTERFACES: header + "\n#endif\n", CLASSES: source, ROWS: rows}
+    return {
+        INTERFACES: header + "\n#endif\n",
+        CLASSES: source,
+        ROWS: rows,
+        STATUSES: page_with(STATUSES, statuses_table(functions)),
+        RANGES: page_with(RANGES, minus_one_table(functions)),
+    }
 
 
 def main():
@@ -233,7 +316,7 @@ def main():
             if not check:
                 path.write_text(text, encoding="utf-8")
     if check and stale:
-        sys.exit(f"{', '.join(stale)} out of date: run tools/write-interfaces.py")
+        sys.exit(f"{', '.join(stale)} out of date: run tools/write-derived.py")
 
 
 main()
