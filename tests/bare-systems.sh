@@ -1,57 +1,100 @@
 #!/usr/bin/env bash
-# On a bare Debian 12 and a bare Debian 13, or the one that is named: follows "Install it" of the
-# README to the letter, then runs ./run-example and ./run-tests there, each twice. Takes half
-# an hour and must be run as root.
-# usage: tests/bare-systems.sh [bookworm|trixie]
+# Tries the project on a bare Debian 12 and a bare Debian 13. Takes an hour and must be run as root.
+#   install   follows "Install it" of the README to the letter and builds the README's programs
+#   packages  makes the Debian packages, has lintian check them, and uses them on other bare systems
+#   run       runs ./run-example and ./run-tests, each twice
+# usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]
+# shellcheck disable=SC2016 # what the shells in there expand
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.sh"
 . "$top/tools/bare-debian.sh"
 . "$top/tests/pages.sh"
 
-# The system in $1 has only what the README names when the README's programs are built and run.
-install_and_use() {
-  local root=$1
-  copy_project "$root/project"
-  readme_block c > "$root/project/program.c"
-  readme_block cpp > "$root/project/program.cpp"
-  {
-    echo 'set -ex; cd /project; sudo() { "$@"; }; apt-get() { command apt-get -y -q "$@"; }'
-    echo 'apt-get update'
-    sed -n '/^## Install it/,/^    sudo ldconfig/s/^    //p' "$top/README.md"
-    # shellcheck disable=SC2016 # expanded in there
-    echo 'apt-get install pkg-config
-      cc program.c $(pkg-config --cflags --libs zrstring) -o c-program
-      c++ -std=c++17 program.cpp $(pkg-config --cflags --libs zrstring) -o cpp-program
-      ./c-program > c.txt; ./cpp-program > cpp.txt
-      cmake --build build/install --target uninstall
-      [ -z "$(find /usr/local -name "*ZRString*")" ]'
-  } > "$root/install.sh"
-  in_debian "$root" bash /install.sh
-  for output in c.txt cpp.txt; do readme_block text | diff - "$root/project/$output"; done
+check_install() {
+  cp -a "$bare" "$bare-install"
+  copy_project "$bare-install/project"
+  write_programs "$bare-install/project"
+  in_debian "$bare-install" bash -exo pipefail -c 'cd /project
+    sudo() { "$@"; }
+    apt-get() { command apt-get -y -q "$@"; }
+    apt-get update
+    . <(sed -n "/^## Install it/,/^    sudo ldconfig/s/^    //p" README.md)
+    apt-get install pkg-config
+    cc readme.c $(pkg-config --cflags --libs zrstring) -o program
+    ./program | diff readme.txt -
+    c++ -std=c++17 readme.cpp $(pkg-config --cflags --libs zrstring) -o program
+    ./program | diff readme.txt -
+    cmake --build build/install --target uninstall
+    [ -z "$(find /usr/local -name "*ZRString*")" ]'
 }
 
-case $* in
-  '') set -- bookworm trixie ;;
-  bookworm | trixie) ;;
-  *) die "the systems are bookworm and trixie" ;;
-esac
-for codename in "$@"; do
-  root=$work/$codename logs=$top/build/bare-systems/$codename
-  say "$codename: making the system"
-  logged "$logs/make.log" make_debian "$codename" "$root"
+# check_files PACKAGE COMPONENT: PACKAGE holds the files of COMPONENT.
+check_files() {
+  {
+    installed_files "$2" /usr "lib/$multiarch" release
+    printf "share/doc/$1/%s\n" changelog.Debian.gz changelog.gz copyright
+  } | sed 's|^|./usr/|' | sort |
+    diff - <(dpkg-deb --fsys-tarfile "$packages/$1"_*.deb | tar -t | grep -v '/$' | sort)
+}
 
-  cp -a "$root" "$root-install"
-  say "$codename: the README's \"Install it\""
-  logged "$logs/install.log" install_and_use "$root-install"
+# add_packages ROOT PACKAGE...: installs packages of Debian and, named ./FILE, those made here.
+add_packages() {
+  cp "$packages"/*.* "$1/"
+  in_debian "$1" sh -ec 'apt-get -q update; apt-get -q install -y --no-install-recommends $*' \
+    sh "${@:2}"
+}
 
-  copy_project "$root/project"
-  for run in first second; do
-    for command in ./run-example ./run-tests; do
-      started=$SECONDS
-      logged "$logs/$command-$run.log" in_debian "$root" env -C /project "$command"
-      say "$codename: $command, $run run: $((SECONDS - started)) s"
-      grep -E 'tests passed|is entry|NOT ' "$logs/$command-$run.log" || true
-    done
+check_packages() {
+  local maker=$bare-maker user=$bare-user runner=$bare-runner root packages multiarch
+  for root in "$maker" "$user" "$runner"; do cp -a "$bare" "$root"; done
+  copy_project "$maker/project"
+  in_debian "$maker" /project/tools/debian/make-packages
+  packages=$maker/project/build/packages
+  multiarch=$(in_debian "$maker" dpkg-architecture -qDEB_HOST_MULTIARCH)
+  check_files libzrstring1 Runtime
+  check_files libzrstring-dev Development
+  dpkg-deb -f "$packages"/libzrstring1_*.deb Depends | grep -E 'libicu[0-9]+ .*libstdc\+\+6'
+  add_packages "$maker" lintian
+  in_debian "$maker" sh -c 'lintian --allow-root --fail-on error,warning /*.changes'
+
+  # With the packages and a C compiler, but without ICU's headers, a program can be built.
+  write_programs "$user"
+  add_packages "$user" './libzrstring1_*' './libzrstring-dev_*' gcc libc6-dev pkg-config
+  [ ! -e "$user/usr/include/unicode" ]
+  in_debian "$user" sh -c 'cc -std=c99 /road.c -o /road $(pkg-config --cflags --libs zrstring)'
+  in_debian "$user" /road | diff "$user/road.txt" -
+
+  # It runs with libzrstring1 alone.
+  add_packages "$runner" './libzrstring1_*'
+  [ ! -e "$runner/usr/include/ZRString" ]
+  cp "$user/road" "$runner/"
+  in_debian "$runner" /road | diff "$user/road.txt" -
+
+  # With libzrstring1-dbgsym, GDB shows the strings of a program that was built with -g.
+  add_packages "$user" './libzrstring1-dbgsym_*' g++ gdb
+  cp "$top/tests/debugger/Samples.cpp" "$user/"
+  in_debian "$user" sh -ec 'c++ -g -std=c++17 /Samples.cpp -lZRString -o /samples
+    gdb -q -batch -ex "break Stop" -ex run -ex up -ex "info locals" /samples' > "$work/locals"
+  grep -F 'shared = "shared" (length 6, holders 3)' "$work/locals"
+  grep -F 'emptyText = "" (length 0, holders 1)' "$work/locals"
+}
+
+check_run() {
+  copy_project "$bare/project"
+  for command in run-example run-tests run-example run-tests; do
+    time in_debian "$bare" "/project/$command"
+  done
+}
+
+[[ "${1:-bookworm} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] ||
+  die "wrong arguments: $*"
+for codename in ${1:-bookworm trixie}; do
+  bare=$work/$codename logs=$top/build/bare-systems/$codename
+  logged "$logs/make.log" make_debian "$codename" "$bare"
+  for check in ${2:-install packages run}; do
+    say "$codename: $check"
+    logged "$logs/$check.log" "check_$check"
+    grep -E 'tests passed|is entry|NOT |^real' "$logs/$check.log" || true
   done
 done

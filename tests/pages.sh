@@ -1,22 +1,30 @@
 # shellcheck shell=bash
-# Sourced by tests, with the project's folder in $top: what the README and the pages show.
+# Sourced by tests, with the project's folder in $top: what the project shows and promises.
 : "${top:?}"
 
-# readme_block KIND: the block of code of that KIND (cpp, c, text).
-readme_block() { sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" "$top/README.md" | sed '1d; $d'; }
-
-# What the first program of the pages, docs/snippets/road, prints.
-# shellcheck disable=SC2016 # the marks of a block of code, not commands
-road_output() {
-  sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/p}' "$top/docs/index.md" | sed '1d; $d'
+# write_programs FOLDER: the programs of the README, the first one of the pages, and the code in the
+# comments of the classes; and in NAME.txt what program NAME prints.
+write_programs() {
+  local kind
+  for kind in c cpp text; do
+    sed -n "/^\`\`\`$kind\$/,/^\`\`\`\$/{/^\`\`\`/!p}" "$top/README.md" > "$1/readme.${kind/ext/xt}"
+  done
+  cp "$top/docs/snippets/road.c" "$1/"
+  # shellcheck disable=SC2016 # the marks of a block of code, not commands
+  sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
+  {
+    printf '#include <%s>\n' cassert ZRString/ZRString{Mutator,PtrArray}.h
+    echo 'int main() {'
+    sed -n '/^\/\/\/ @code$/,/^\/\/\/ @endcode$/s/^\/\/\/ \{0,1\}//p' \
+      "$top"/include/ZRString/ZRString{,Mutator,PtrArray}.h | sed 's/^@code$/{/; s/^@endcode$/}/'
+    echo '}'
+  } > "$1/classes.cpp"
+  : > "$1/classes.txt"
 }
 
-# header_examples: the code in the comments of the classes, as one C++ program.
-header_examples() {
-  echo '#undef NDEBUG'
-  printf '#include <%s>\n' cassert ZRString/ZRStringMutator.h ZRString/ZRStringPtrArray.h
-  echo 'int main() {'
-  sed -n '/^\/\/\/ @code$/,/^\/\/\/ @endcode$/s/^\/\/\/ \{0,1\}//p' \
-    "$top"/include/ZRString/ZRString{,Mutator,PtrArray}.h | sed 's/^@code$/{/; s/^@endcode$/}/'
-  echo '}'
+# installed_files COMPONENTS PREFIX LIBDIR CONFIG: the files of install/files.txt for COMPONENTS, a
+# regular expression.
+installed_files() {
+  sed -nE "s#^($1) ##; T; s#/PREFIX/#$2/#; s#\<LIBDIR/#$3/#; s#CONFIG#${4,,}#; p" \
+    "$top/tests/install/files.txt"
 }
