@@ -12,23 +12,16 @@
 /// The type and the value of each call: 'l' ZRLong, 'u' ZRULong, 's' unsigned short.
 using Calls = std::vector<std::pair<char, long long>>;
 
-/// Throws std::out_of_range after `room` writes and after the last call that is played back.
+/// Throws std::out_of_range if there is nothing left to play back.
 struct Recorder : Velmar::IStream {
-  explicit Recorder(Calls played = {}, std::size_t writes = SIZE_MAX)
-      : input(std::move(played)), room(writes) {}
+  explicit Recorder(Calls played = {}) : input(std::move(played)) {}
 
-  void Write(const ZRLong* value) override { Put('l', *value); }
-  void Write(const ZRULong* value) override { Put('u', *value); }
-  void Write(const unsigned short* value) override { Put('s', *value); }
+  void Write(const ZRLong* value) override { output.emplace_back('l', *value); }
+  void Write(const ZRULong* value) override { output.emplace_back('u', *value); }
+  void Write(const unsigned short* value) override { output.emplace_back('s', *value); }
   void Read(ZRLong* value) override { Get('l', value); }
   void Read(ZRULong* value) override { Get('u', value); }
   void Read(unsigned short* value) override { Get('s', value); }
-
-  void Put(char type, long long value) {
-    if (output.size() == room)
-      throw std::out_of_range("written");
-    output.emplace_back(type, value);
-  }
 
   template <typename Value>
   void Get(char type, Value* value) {
@@ -38,7 +31,7 @@ struct Recorder : Velmar::IStream {
   }
 
   Calls input, output;
-  std::size_t consumed = 0, room;
+  std::size_t consumed = 0;
 };
 
 #endif

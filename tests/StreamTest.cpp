@@ -52,9 +52,7 @@ TEST(Stream, AnArrayIsExactlyTheseCallsAndGetsWhatIsComplete) {
   }
   for (std::size_t n = 0; n < calls.size(); ++n) {
     SCOPED_TRACE(n);
-    Recorder failing(Calls(calls.begin(), calls.begin() + n), n);
-    EXPECT_THROW(failing << array, std::out_of_range);
-    EXPECT_EQ(failing.output, failing.input);
+    Recorder failing(Calls(calls.begin(), calls.begin() + n));
     OwningArray read;
     EXPECT_THROW(failing >> read, std::out_of_range);
     EXPECT_EQ(read.Size(), (n > 1) + (n > 3));
@@ -71,12 +69,11 @@ TEST(Stream, AnArrayIsExactlyTheseCallsAndGetsWhatIsComplete) {
 }
 
 TEST(Stream, ANegativeLengthIsNoText) {
-  Recorder stream({{'l', -1}, {'u', 2}, {'l', 1}, {'s', 'x'}, {'l', -1}});
+  Recorder stream({{'l', -1}, {'u', 1}, {'l', -1}});
   ZRStringMutator string(Make(u"abc"));
   stream >> string;
   EXPECT_EQ(TextOf(string), u"abc");
-  OwningArray array;
+  ZRStringPtrArray array;
   EXPECT_THROW(stream >> array, std::bad_alloc);
-  ASSERT_EQ(array.Size(), 1u);
-  EXPECT_EQ(TextOf(*array[0]), u"x");
+  EXPECT_TRUE(array.Empty());
 }
