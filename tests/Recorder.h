@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "Memory.h"
+
 /// The type and the value of each call: 'l' ZRLong, 'u' ZRULong, 's' unsigned short.
 using Calls = std::vector<std::pair<char, long long>>;
 
@@ -21,7 +23,11 @@ struct Recorder : Velmar::IStream {
   void Write(const unsigned short* value) override { output.emplace_back('s', *value); }
   void Read(ZRLong* value) override { Get('l', value); }
   void Read(ZRULong* value) override { Get('u', value); }
-  void Read(unsigned short* value) override { Get('s', value); }
+  void Read(unsigned short* value) override {
+    Get('s', value);
+    const bool more = consumed < input.size() && input[consumed].first == 's';
+    EXPECT_TRUE(!more || value[1] == (kFresh << 8 | kFresh)) << "a wrong length touches memory";
+  }
 
   template <typename Value>
   void Get(char type, Value* value) {
