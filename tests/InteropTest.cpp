@@ -10,6 +10,8 @@
 #include <unordered_set>
 #include <vector>
 
+using namespace std::string_literals;
+
 namespace {
 
 // The texts are converted from memory of exactly their size, so that a sanitizer sees reads past
@@ -64,19 +66,16 @@ TEST(Interop, EveryShortSequenceOfTheEdgesOfTheClasses) {
   std::string bytes(256, '\0');
   std::iota(bytes.begin(), bytes.end(), '\0');
   ForEachSequence(bytes, 2, agrees);
-  ForEachSequence(std::string("\x00\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xC1\xC2\xDF"
-                              "\xE0\xE1\xEC\xED\xEE\xEF\xF0\xF1\xF3\xF4\xF5",
-                              23),
-                  4, agrees);
-  ForEachSequence(
-      std::u16string(u"\0\x7F\x80\u07FF\u0800\uD7FF\xD800\xDBFF\xDC00\xDFFF\uE000\uFFFF", 12), 4,
-      agrees);
+  bytes =
+      "\0\x7F\x80\x8F\x90\x9F\xA0\xBF\xC0\xC1\xC2\xDF\xE0\xE1\xEC\xED\xEE\xEF\xF0\xF1\xF3\xF4\xF5"s;
+  ForEachSequence(bytes, 4, agrees);
+  ForEachSequence(u"\0\x7F\x80\u07FF\u0800\uD7FF\xD800\xDBFF\xDC00\xDFFF\uE000\uFFFF"s, 4, agrees);
 }
 
 // Texts are converted in pieces and blocks. Cuts split characters, too.
 TEST(Interop, EveryPlaceAndLength) {
   const std::string parts[] = {"a", "\u00E9", "\u4E2D", "\U0001F600", "a\xE4", "\xFF"};
-  for (const std::string& part : parts) {
+  for (const std::string& part : parts)
     for (const std::string& other : parts) {
       std::string bytes;
       for (std::size_t i = 0; i < 600; ++i, bytes += part) {
@@ -85,7 +84,6 @@ TEST(Interop, EveryPlaceAndLength) {
         ASSERT_TRUE(SameAsIcu(std::u16string(Utf16View(FromUtf8(text))))) << text.size();
       }
     }
-  }
 }
 
 TEST(Interop, TextsThatAreTooLongAreRefused) {
@@ -96,13 +94,13 @@ TEST(Interop, TextsThatAreTooLongAreRefused) {
 
 TEST(Interop, ViewsAndLiterals) {
   const ZRString string = u"a\0\xD800"_zr;
-  EXPECT_EQ(Utf16View(string), std::u16string_view(u"a\0\xD800", 3));
+  EXPECT_EQ(Utf16View(string), u"a\0\xD800"s);
   EXPECT_EQ(static_cast<const void*>(Utf16View(string).data()), string.GetBuffer());
   EXPECT_EQ(FromUtf16(u"a\0b"), FromUtf8(u8"a"));
   EXPECT_EQ(FromUtf16({}), u""_zr);
 #ifdef _WIN32
-  EXPECT_EQ(FromWide({L"a\0\xD800", 3}), string);
-  EXPECT_EQ(ToWide(string), std::wstring(L"a\0\xD800", 3));
+  EXPECT_EQ(FromWide(L"a\0\xD800"s), string);
+  EXPECT_EQ(ToWide(string), L"a\0\xD800"s);
 #endif
 }
 
@@ -142,7 +140,7 @@ TEST(Interop, TextsAreInsertedAsUtf8) {
   const ZRStringMutator damaged = u"\0\xD800"_zr;
   std::ostringstream stream;
   stream << std::left << std::setfill('*') << std::setw(4) << accented << damaged;
-  EXPECT_EQ(stream.str(), std::string("\u00E9**\0\uFFFD", 8));
+  EXPECT_EQ(stream.str(), "\u00E9**\0\uFFFD"s);
 #ifdef __cpp_lib_format
   EXPECT_EQ(std::format("{:*<4}{}", accented, damaged), stream.str());
 #endif

@@ -13,18 +13,14 @@ static_assert(sizeof(ZRStringMutator) == sizeof(ZRString));
 static_assert(sizeof(ZRLong) == 4 && sizeof(ZRULong) == 4);
 static_assert(offsetof(UniStr255, units) == 8);
 
-namespace {
-
 /// The slot of a virtual member function. In the C++ ABI of GCC and Clang, a pointer to such a
 /// member holds the offset in the table, plus 1 except on ARM.
 template <typename Pointer>
-std::ptrdiff_t Slot(Pointer member) {
+static std::ptrdiff_t Slot(Pointer member) {
   std::ptrdiff_t value;
   std::memcpy(&value, &member, sizeof value);
   return value / static_cast<std::ptrdiff_t>(sizeof(void*));
 }
-
-}  // namespace
 
 TEST(Layout, VirtualOperationsKeepTheirSlots) {
   // The destructor has the first two slots.

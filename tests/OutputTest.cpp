@@ -7,39 +7,32 @@
 
 #include "Text.h"
 
-namespace {
-
 using Stream = std::basic_ostringstream<unsigned short>;
 using Base = std::basic_ostream<unsigned short>;
 
-Text Written(const Stream& stream) {
+static Text Written(const Stream& stream) {
   const auto units = stream.str();
   return Text(units.begin(), units.end());
 }
 
-}  // namespace
-
 TEST(Output, HasTheWidthFillAndAdjustmentOfATerminatedText) {
-  for (const Text& text : {Text(), Text(u"abc"), Text(u"a\0b", 3), Text(u"\u20AC\U0001F600")}) {
-    for (int width = 0; width < 8; ++width) {
-      for (const auto adjustment : {std::left, std::right}) {
+  for (const Text& text : {Text(), Text(u"abc"), Text(u"a\0b", 3), Text(u"\u20AC\U0001F600")})
+    for (int width = 0; width < 8; ++width)
+      for (const bool left : {false, true})
         for (const int form : {0, 1, 2}) {
           const ZRStringMutator string(Make(text));
           const Text shown = text.c_str(), padding(std::max<int>(width - shown.size(), 0), u'*');
           Stream stream;
           Base& base = stream;
-          stream << std::setw(width) << adjustment;
+          stream << std::setw(width) << (left ? std::left : std::right);
           stream.fill('*');
           Base& result = form == 0   ? SerializeBasicStream(string, stream)
                          : form == 1 ? base << string
                                      : stream << string;
           EXPECT_EQ(&result, &stream);
           EXPECT_TRUE(stream.good() && stream.width() == 0);
-          EXPECT_EQ(Written(stream), adjustment == std::left ? shown + padding : padding + shown);
+          EXPECT_EQ(Written(stream), left ? shown + padding : padding + shown);
         }
-      }
-    }
-  }
 }
 
 TEST(Output, DecodingAndWideningNeedNoLocale) {
