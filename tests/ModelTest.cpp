@@ -1,22 +1,13 @@
 // Compares random operations, on strings that share bodies and on an array, with a model.
-// Arguments: the number of operations and the seed; a failure prints both.
-#include "World.h"
-
+// --gtest_shuffle --gtest_repeat=100 makes more of them, each time with another seed.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
-extern std::vector<std::string> programArguments;
+#include "World.h"
 
 TEST(Model, RandomOperationsAgreeWithPlainTexts) {
-  const auto argument = [](std::size_t index, unsigned fallback) {
-    return index < programArguments.size()
-               ? std::strtoul(programArguments[index].c_str(), nullptr, 0)
-               : fallback;
-  };
-  const unsigned long count = argument(0, 200000), seed = argument(1, 14);
-  World world(static_cast<unsigned>(seed));
-  for (unsigned long i = 0; i < count; ++i) {
+  const int seed = testing::UnitTest::GetInstance()->random_seed();
+  World world(seed);
+  for (int i = 0; i < 400000; ++i) {
     const std::string wrong = world.Step(Operations()[world.Below(Operations().size())]);
     ASSERT_EQ(wrong, "") << "operation " << i << " of seed " << seed;
   }

@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
-#include <ostream>
 #include <string>
 
 using Text = std::u16string;
@@ -38,36 +37,17 @@ inline const std::int32_t* BodyOf(const ZRString& string) {
 
 inline int Holders(const ZRString& string) { return *BodyOf(string); }
 
-/// A raw text in memory of exactly its size, so that a sanitizer sees reads past either end.
-class ExactText {
- public:
-  ExactText(const Text& text, bool terminated)
-      : units_(new unsigned short[text.size() + terminated]) {
-    std::copy(text.begin(), text.end(), units_.get());
-    if (terminated)
-      units_[text.size()] = 0;
-  }
-
-  const unsigned short* Units() const { return units_.get(); }
-
- private:
-  std::unique_ptr<unsigned short[]> units_;
-};
-
 // A model of ranges, in 64 bits and without ICU.
 
-inline Text CutBetween(const Text& text, ZRLong start, ZRLong end) {
+inline Text CutBetween(const Text& text, long long start, long long end) {
   const auto size = static_cast<long long>(text.size());
-  const long long first = std::clamp<long long>(start, 0, size);
-  const long long limit = std::clamp<long long>(end + 1LL, first, size);
-  return text.substr(first, limit - first);
+  const long long first = std::clamp(start, 0LL, size);
+  return text.substr(first, std::clamp(end + 1, first, size) - first);
 }
 
-inline Text Cut(const Text& text, ZRLong start, ZRLong length) {
-  const auto size = static_cast<long long>(text.size());
-  const long long first = std::clamp<long long>(start, 0, size);
-  const long long count = length == -1 ? size : std::max<long long>(length, 0);
-  return text.substr(first, std::min(count, size - first));
+inline Text Cut(const Text& text, long long start, long long length) {
+  const long long first = std::max(start, 0LL), end = length == -1 ? INT_MAX : first + length - 1;
+  return CutBetween(text, first, end);
 }
 
 #endif

@@ -31,7 +31,6 @@ WIDTH = 100
 class InterfaceClass:
     name: str
     group: str  # the functions that its members repeat
-    row: str  # HandlesTest.cpp's macro for them
     comment: str
     more_declarations: str = ""
     more_definitions: str = ""
@@ -41,13 +40,11 @@ INTERFACE_CLASSES = [
     InterfaceClass(
         "ZRAccessorStringDKInterfaceImpl",
         "Immutable strings",
-        "ZR_IMMUTABLE",
         "/// Immutable strings. Every member has the name of its plain function.\n",
     ),
     InterfaceClass(
         "ZRMutableStringDKInterfaceImpl",
         "Mutable strings",
-        "ZR_MUTABLE",
         "/// Mutable strings. Every member but ZRStringRefConst() has the name of its plain function.\n",
         more_declarations="""\
 
@@ -65,7 +62,6 @@ ZRStringRef__* ZRMutableStringDKInterfaceImpl::ZRStringRefConst(ZRMutableStringR
     InterfaceClass(
         "ZRStringCDKInterfaceImpl",
         "Arrays of strings",
-        "ZR_ARRAY",
         "/// Arrays of strings. Every member has another name than its plain function.\n",
     ),
 ]
@@ -101,7 +97,7 @@ ROWS_BEGIN = """\
 TESTED = {"negative": "notNegative", "below -1": "toEnd", "below 1": "count"}
 NOT_NULL = {
     "ZRStringRef__*": "string",
-    "ZRMutableStringRef__*": "mutable",
+    "ZRMutableStringRef__*": "mutableString",
     "ZRStringPtrArrayRef__*": "array",
     "const unsigned short*": "units",
     "const unsigned char*": "bytes",
@@ -220,10 +216,8 @@ def kinds(function):
 
 
 def row(interface, function):
-    names = [function.name]
-    if member_name(interface, function) != function.name:
-        names.append(member_name(interface, function))
-    return f'{interface.row}({", ".join(names)}, "{" ".join(kinds(function))}")\n'
+    member = f"{interface.name}::{member_name(interface, function)}"
+    return f"ZR_ROW({', '.join([function.name, member, *kinds(function)])})\n"
 
 
 def assignment(name):

@@ -10,9 +10,7 @@ int __cdecl Start(void) {
   ZRStringRef__* string = 0;
   ZRLong length = 0;
   int failures = 0;
-#define ZR_IMMUTABLE(name, ...) failures += GetProcAddress(library, #name) != (void*)name;
-#define ZR_MUTABLE ZR_IMMUTABLE
-#define ZR_ARRAY ZR_IMMUTABLE
+#define ZR_ROW(name, ...) failures += GetProcAddress(library, #name) != (void*)name;
 #include "../../HandleRows.inc"
   failures += ZRStringCreateFromCString("abc\x80", 0, 4, &string) != 0;
   failures += getLength(string, &length) != 0 || length != 4;
