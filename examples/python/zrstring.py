@@ -210,7 +210,18 @@ def _operand(value):
 class String(_Object):
     """An immutable string: a copy of a str, or of a String, whose text it shares.
 
-    Operators compare by code units. A slice is a new string of the same class."""
+    Operators compare by code units. A slice is a new string of the same class.
+
+    >>> text = String("naïve cafés")
+    >>> text[6:], text[-5:] + "!"
+    (String('cafés'), MutableString('cafés!'))
+    >>> text.find("n"), text.rfind("a"), text.find("a", 2, 5), text.last_index_of("a")
+    (0, 7, -1, 7)
+    >>> text < "naïve", text.icompare("NAÏVE CAFÉS"), text.compare("decaffeinated", 6, 3, 2, 3)
+    (False, 0, 0)
+    >>> String("côté").icompare("coter", COLLATED)
+    -1
+    """
 
     _PREFIX = "ZRString"
     _DESTROY = "ZRStringDestroy"
@@ -304,7 +315,18 @@ class MutableString(String):
     """A string that can be edited. It copies a shared text before the first edit.
 
     Edits return the string, so that they chain; the three that may have nothing to do return
-    whether they did something."""
+    whether they did something.
+
+    >>> text = MutableString("cafe")
+    >>> text.set_unit(3, "é").append(" noir").insert(0, "un petit grand", 3, 6)
+    MutableString('petit café noir')
+    >>> text.remove_between(0, 5).replace(5, 4, "au lait")
+    MutableString('café au lait')
+    >>> text.find_and_replace("a", "o", 2, 5).to_upper().reverse(5, 2)
+    MutableString('CAFÉ UO LAIT')
+    >>> text.truncate(4), text.pad_leading(6, "*"), text.pad_trailing(7), text
+    (True, True, True, MutableString('**CAFÉ '))
+    """
 
     _PREFIX = "ZRMutableString"
     _DESTROY = "ZRMutableStringDestroy"
@@ -366,7 +388,13 @@ class MutableString(String):
 
 
 class StringArray(_Object):
-    """A list of strings. The library's array does not own its strings, so this object does."""
+    """A list of strings. The library's array does not own its strings, so this object does.
+
+    >>> words = StringArray(["deux", "trois"])
+    >>> words.insert(0, String("un"))
+    >>> len(words), str(words[-1]), [str(word) for word in words]
+    (3, 'trois', ['un', 'deux', 'trois'])
+    """
 
     _DESTROY = "ZRStringPtrArrayDestroy"
 

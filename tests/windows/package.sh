@@ -42,7 +42,7 @@ for example in wordlist lookup; do
   printf '#!/bin/sh\nexec "%s" "%s" "$@"\n' "$tests/wine" "$bin/$example.exe" > "$example"
   chmod +x "$example"
 done
-TMPDIR=$work ARGUMENTS=UTF-8 "$top/tests/check-examples.sh" "$work"
+TMPDIR=$work ARGUMENTS=UTF-8 python3 "$top/tests/examples/programs_test.py" "$work"
 
 say "a program that only loads the library, from its own folder"
 run mingw/load.exe "${bin//\//\\}\\ZRString.dll" | diff <(echo "$version") -
