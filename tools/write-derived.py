@@ -4,15 +4,17 @@
     write-derived.py [--check]
 
 These are the three interface classes (include/ZRString/ZRStringInterfaces.h and
-handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), and the
-tables in docs/statuses.md and docs/ranges.md. Run it after a change of that header and commit what
-it writes. --check only compares, and fails if a file is out of date.
+handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), the
+tables in docs/statuses.md and docs/ranges.md, and the declarations in examples/python/zrstring.py.
+Run it after a change of that header and commit what it writes. --check only compares, and fails if
+a file is out of date.
 """
 
 import dataclasses
 import pathlib
 import re
 import sys
+import textwrap
 
 import handle_header
 from handle_header import FIRST_PARAMETER, INDEX_OUTSIDE
@@ -24,6 +26,7 @@ CLASSES = ROOT / "handles/InterfaceClasses.cpp"
 ROWS = ROOT / "tests/HandleRows.inc"
 STATUSES = ROOT / "docs/statuses.md"
 RANGES = ROOT / "docs/ranges.md"
+PYTHON = ROOT / "examples/python/zrstring.py"
 WIDTH = 100
 
 
@@ -105,6 +108,8 @@ NOT_NULL = {
 }
 
 # A table in a page is between these lines.
+PYTHON_BEGIN = "# Written by tools/write-derived.py: edit ZRStringHandles.h and run that.\n"
+PYTHON_END = "# Up to here.\n"
 TABLE_BEGIN = "<!-- written by tools/write-derived.py -->\n\n"
 TABLE_END = "\n<!-- end of what is written -->\n"
 
@@ -268,13 +273,39 @@ def minus_one_table(functions):
     return table
 
 
-def page_with(path, table):
-    """The page, with `table` in place of the one that it holds."""
-    before, begin, rest = path.read_text(encoding="utf-8").partition(TABLE_BEGIN)
-    _, end, after = rest.partition(TABLE_END)
+def python_type(kind):
+    """What zrstring.py calls a parameter's type."""
+    if kind.endswith("Ref__*"):
+        return "Handle"
+    names = {"ZRLong": "Long", "ZRULong": "ULong", "unsigned char": "Bool"}
+    names |= {"unsigned short": "Unit", "const unsigned short*": "Units"}
+    names |= {"unsigned short*": "Units", "const char*": "Bytes", "const unsigned char*": "Bytes"}
+    return names.get(kind) or f"Out({python_type(kind.removesuffix('*'))})"
+
+
+def python_declarations(functions):
+    text = "# The functions, with their parameters.\nFUNCTIONS = {\n"
+    positions = ""
+    for function in functions:
+        pairs = [f'("{name}",\0{python_type(kind)})' for kind, name in function.parameters]
+        line = f'"{function.name}":\0[{", ".join(pairs)}],'
+        line = textwrap.fill(line, WIDTH, initial_indent=" " * 4, subsequent_indent=" " * 8)
+        text += line.replace("\0", " ") + "\n"
+        for status, test in function.tests.items():
+            if status != test.member_status:
+                position = test.member_status - FIRST_PARAMETER + 1
+                positions += f'    ("{function.name}", {status}): {position},\n'
+    comment = "\n# Positions of invalid parameters whose status is not 3 + the position.\n"
+    return f"{text}}}\n{comment}_POSITIONS = {{\n{positions}}}\n"
+
+
+def with_text(path, text, begin=TABLE_BEGIN, end=TABLE_END):
+    """The file, with `text` in place of what it holds between `begin` and `end`."""
+    before, begin, rest = path.read_text(encoding="utf-8").partition(begin)
+    _, end, after = rest.partition(end)
     if not end:
-        sys.exit(f"{path} has no place for a table")
-    return before + begin + table + end + after
+        sys.exit(f"{path} has no place for what is derived")
+    return before + begin + text + end + after
 
 
 def written(functions):
@@ -294,8 +325,9 @@ def written(functions):
         INTERFACES: header + "\n#endif\n",
         CLASSES: source,
         ROWS: rows,
-        STATUSES: page_with(STATUSES, statuses_table(functions)),
-        RANGES: page_with(RANGES, minus_one_table(functions)),
+        STATUSES: with_text(STATUSES, statuses_table(functions)),
+        RANGES: with_text(RANGES, minus_one_table(functions)),
+        PYTHON: with_text(PYTHON, python_declarations(functions), PYTHON_BEGIN, PYTHON_END),
     }
 
 

@@ -52,66 +52,107 @@ Units = ctypes.POINTER(ctypes.c_uint16)
 Handle = ctypes.c_void_p
 Out = ctypes.POINTER
 
-_RANGE = [("start", Long), ("length", Long)]
-_STRING = [("string", Handle)]
-_STRING_RANGE = _STRING + _RANGE
-_SRC_RANGE = [("src", Handle), ("srcStart", Long), ("srcLength", Long)]
-_ARRAY = [("array", Handle)]
-_OUT = [("out", Out(Handle))]
-
-# The functions that this module calls, with the parameter names of ZRStringHandles.h.
+# Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
+# The functions, with their parameters.
 FUNCTIONS = {
-    "ZRStringCreateFromUniChars": [("chars", Units)] + _RANGE + _OUT,
-    "ZRStringCreateFromLocalString": [("text", Bytes)] + _RANGE + _OUT,
-    "ZRStringCreateCopy": [("source", Handle)] + _OUT,
-    "ZRStringCreateCopyRange": [("source", Handle)] + _RANGE + _OUT,
-    "ZRStringDestroy": _STRING,
-    "ZRStringCompare": _STRING_RANGE + _SRC_RANGE + [("result", Out(Long))],
-    "ZRStringCompareCodePointOrder": _STRING_RANGE + _SRC_RANGE + [("result", Out(Long))],
-    "ZRStringICompare": _STRING_RANGE + _SRC_RANGE + [("options", ULong), ("result", Out(Long))],
-    "ZRStringFind": _STRING_RANGE + [("pattern", Handle), ("index", Out(Long))],
-    "ZRStringRFind": _STRING_RANGE + [("pattern", Handle), ("index", Out(Long))],
-    "ZRStringLastIndexOf": _STRING + [("unit", Unit), ("index", Out(Long))],
-    "ZRStringExtractIntoUniChars": _STRING_RANGE + [("dst", Units), ("dstStart", Long)],
-    "ZRStringGetLength": _STRING + [("length", Out(Long))],
-    "ZRMutableStringCreateFromUniChars": [("chars", Units)] + _RANGE + _OUT,
-    "ZRMutableStringCreateFromLocalString": [("text", Bytes)] + _RANGE + _OUT,
-    "ZRMutableStringCreateCopy": [("source", Handle)] + _OUT,
-    "ZRMutableStringCreateCopyRange": [("source", Handle)] + _RANGE + _OUT,
-    "ZRMutableStringDestroy": _STRING,
-    "ZRMutableStringSetToZRString": _STRING + _SRC_RANGE,
-    "ZRMutableStringSetUniCharAt": _STRING + [("index", Long), ("unit", Unit)],
-    "ZRMutableStringAppend": _STRING + [("src", Handle)],
-    "ZRMutableStringInsert": _STRING + [("position", Long)] + _SRC_RANGE,
-    "ZRMutableStringReplaceBetween": _STRING_RANGE + [("replacement", Handle)],
-    "ZRMutableStringFindAndReplace": _STRING_RANGE + [("find", Handle), ("replacement", Handle)],
-    "ZRMutableStringRemoveBetween": _STRING + [("start", Long), ("end", Long)],
-    "ZRMutableStringPadLeading": _STRING
-    + [("targetLength", Long), ("padUnit", Unit), ("padded", Out(Bool))],
-    "ZRMutableStringPadTrailing": _STRING
-    + [("targetLength", Long), ("padUnit", Unit), ("padded", Out(Bool))],
-    "ZRMutableStringTruncate": _STRING + [("targetLength", Long), ("truncated", Out(Bool))],
-    "ZRMutableStringTrim": _STRING,
-    "ZRMutableStringToUpper": _STRING,
-    "ZRMutableStringToLower": _STRING,
-    "ZRMutableStringReverse": _STRING_RANGE,
-    "ZRMutableStringGetCapacity": _STRING + [("capacity", Out(Long))],
-    "ZRMutableStringAddStrings": [("first", Handle), ("second", Handle)] + _OUT,
-    "ZRStringPtrArrayCreate": _OUT,
-    "ZRStringPtrArrayDestroy": _ARRAY,
-    "ZRStringPtrArraySize": _ARRAY + [("size", Out(ULong))],
-    "SetZRStringRefAt": _ARRAY + [("index", Long), ("string", Handle)],
-    "InsertZRStringRefAt": _ARRAY + [("index", Long), ("string", Handle)],
-    "ZRStringPtrArrayPushBack": _ARRAY + [("string", Handle)],
-    "ZRStringPtrArrayErase": _ARRAY + [("index", Long)],
-    "ZRStringPtrArrayEraseAll": _ARRAY,
+    "ZRStringCreateFromUniChars": [("chars", Units), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRStringCreateFromLocalString": [("text", Bytes), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRStringCreateFromCString": [("text", Bytes), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRStringCreateCopy": [("source", Handle), ("out", Out(Handle))],
+    "ZRStringCreateCopyRange": [("source", Handle), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRStringDestroy": [("string", Handle)],
+    "ZRStringCompare": [("string", Handle), ("start", Long), ("length", Long), ("src", Handle),
+        ("srcStart", Long), ("srcLength", Long), ("result", Out(Long))],
+    "ZRStringCompareCodePointOrder": [("string", Handle), ("start", Long), ("length", Long),
+        ("src", Handle), ("srcStart", Long), ("srcLength", Long), ("result", Out(Long))],
+    "ZRStringICompare": [("string", Handle), ("start", Long), ("length", Long), ("src", Handle),
+        ("srcStart", Long), ("srcLength", Long), ("options", ULong), ("result", Out(Long))],
+    "ZRStringFind": [("string", Handle), ("start", Long), ("length", Long), ("pattern", Handle),
+        ("index", Out(Long))],
+    "ZRStringFindUniChars": [("string", Handle), ("start", Long), ("length", Long),
+        ("pattern", Units), ("patternLength", Long), ("index", Out(Long))],
+    "ZRStringRFind": [("string", Handle), ("start", Long), ("length", Long), ("pattern", Handle),
+        ("index", Out(Long))],
+    "ZRStringRFindUniChars": [("string", Handle), ("start", Long), ("length", Long),
+        ("pattern", Units), ("patternLength", Long), ("index", Out(Long))],
+    "ZRStringGetUniCharsAt": [("string", Handle), ("index", Long), ("count", Long),
+        ("units", Units)],
+    "ZRStringExtractIntoUniChars": [("string", Handle), ("start", Long), ("length", Long),
+        ("dst", Units), ("dstStart", Long)],
+    "ZRStringGetLength": [("string", Handle), ("length", Out(Long))],
+    "ZRStringIsEmpty": [("string", Handle), ("isEmpty", Out(Bool))],
+    "ZRStringGetBuffer": [("string", Handle), ("buffer", Out(Units))],
+    "ZRStringLastIndexOf": [("string", Handle), ("unit", Unit), ("index", Out(Long))],
+    "ZRMutableStringCreateEmpty": [("out", Out(Handle))],
+    "ZRMutableStringCreateFromUniChars": [("chars", Units), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRMutableStringCreateCopy": [("source", Handle), ("out", Out(Handle))],
+    "ZRMutableStringCreateCopyRange": [("source", Handle), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRMutableStringCreateFromLocalString": [("text", Bytes), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRMutableStringCreateFromCString": [("text", Bytes), ("start", Long), ("length", Long),
+        ("out", Out(Handle))],
+    "ZRMutableStringDestroy": [("string", Handle)],
+    "ZRMutableStringSetUniCharAt": [("string", Handle), ("index", Long), ("unit", Unit)],
+    "ZRMutableStringSetToZRString": [("string", Handle), ("src", Handle), ("srcStart", Long),
+        ("srcLength", Long)],
+    "ZRMutableStringAppend": [("string", Handle), ("src", Handle)],
+    "ZRMutableStringAppendUniChars": [("string", Handle), ("chars", Units), ("srcStart", Long),
+        ("srcLength", Long)],
+    "ZRMutableStringInsert": [("string", Handle), ("position", Long), ("src", Handle),
+        ("srcStart", Long), ("srcLength", Long)],
+    "ZRMutableStringInsertUniChars": [("string", Handle), ("position", Long), ("chars", Units),
+        ("srcStart", Long), ("srcLength", Long)],
+    "ZRMutableStringReplaceBetween": [("string", Handle), ("start", Long), ("length", Long),
+        ("replacement", Handle)],
+    "ZRMutableStringReplaceWithUniChars": [("string", Handle), ("start", Long), ("length", Long),
+        ("chars", Units), ("srcStart", Long), ("srcLength", Long)],
+    "ZRMutableStringFindAndReplace": [("string", Handle), ("start", Long), ("length", Long),
+        ("find", Handle), ("replacement", Handle)],
+    "ZRMutableStringRemoveBetween": [("string", Handle), ("start", Long), ("end", Long)],
+    "ZRMutableStringPadLeading": [("string", Handle), ("targetLength", Long), ("padUnit", Unit),
+        ("padded", Out(Bool))],
+    "ZRMutableStringPadTrailing": [("string", Handle), ("targetLength", Long), ("padUnit", Unit),
+        ("padded", Out(Bool))],
+    "ZRMutableStringTruncate": [("string", Handle), ("targetLength", Long),
+        ("truncated", Out(Bool))],
+    "ZRMutableStringTrim": [("string", Handle)],
+    "ZRMutableStringToUpper": [("string", Handle)],
+    "ZRMutableStringToLower": [("string", Handle)],
+    "ZRMutableStringGetBufferWithCapacity": [("string", Handle), ("minCapacity", Long),
+        ("buffer", Out(Units))],
+    "ZRMutableStringGetCapacity": [("string", Handle), ("capacity", Out(Long))],
+    "ZRMutableStringReleaseBuffer": [("string", Handle), ("newLength", Long)],
+    "ZRMutableStringReverse": [("string", Handle), ("start", Long), ("length", Long)],
+    "ZRMutableStringAddStrings": [("first", Handle), ("second", Handle), ("out", Out(Handle))],
+    "ZRMutableStringLastIndexOf": [("string", Handle), ("unit", Unit), ("index", Out(Long))],
+    "ZRStringPtrArrayCreate": [("out", Out(Handle))],
+    "ZRStrPtrArrCreateFromZRStrPtrArr": [("source", Handle), ("out", Out(Handle))],
+    "ZRStringPtrArrayDestroy": [("array", Handle)],
+    "ZRStringPtrArraySize": [("array", Handle), ("size", Out(ULong))],
+    "ZRStringPtrArrayIsEmpty": [("array", Handle), ("isEmpty", Out(Bool))],
+    "GetZRStringRefAt": [("array", Handle), ("index", Long), ("string", Out(Handle))],
+    "SetZRStringRefAt": [("array", Handle), ("index", Long), ("string", Handle)],
+    "InsertZRStringRefAt": [("array", Handle), ("index", Long), ("string", Handle)],
+    "ZRStringPtrArrayPushBack": [("array", Handle), ("string", Handle)],
+    "ZRStringPtrArrayErase": [("array", Handle), ("index", Long)],
+    "ZRStringPtrArrayEraseAll": [("array", Handle)],
+    "ZRStringPtrArrayDeleteAll": [("array", Handle)],
 }
+
+# Positions of invalid parameters whose status is not 3 + the position.
+_POSITIONS = {
+    ("InsertZRStringRefAt", 5): 3,
+}
+# Up to here.
 
 _INDEX_OUTSIDE = 12
 _FIRST_PARAMETER = 4
-
-# The one status that is not 3 + the position of the invalid parameter.
-_POSITIONS = {("InsertZRStringRefAt", 5): 3}
 
 
 class Error(Exception):
@@ -172,7 +213,7 @@ _functions = {name: _bound(_library, name) for name in FUNCTIONS}
 
 
 def call(name, *arguments):
-    """Calls a function of the handle interface and raises an Error for a status other than 0."""
+    """Calls any function of the handle interface; a status other than 0 raises an Error."""
     _functions[name](*arguments)
 
 

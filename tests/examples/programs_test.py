@@ -80,8 +80,8 @@ class Examples(unittest.TestCase):
             done = subprocess.run(b"exec " + encoded, shell=True, capture_output=True)
             printed = re.sub(r"( +[0-9.]+ ms)?\r?\n", "\n", done.stdout.decode())
             message = done.stderr.decode().replace("\r", "")[: len(complaint) or None]
-            found = done.returncode, printed, message
-            self.assertEqual(found, (2 if complaint else 0, output, complaint))
+            expected = 2 if complaint else 0, output, complaint
+            self.assertEqual((done.returncode, printed, message), expected)
 
     def test_words_are_found(self):
         for data, lines, entries, words, places in LISTS:
@@ -122,13 +122,13 @@ class Examples(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    FOLDER, *SCRIPTS = map(os.path.abspath, sys.argv[1:])
+    programs, *scripts = map(os.path.abspath, sys.argv[1:])
     ENCODING = os.environ.get("ARGUMENTS", "windows-1252")
-    # The leaks that a sanitizer finds in Python are Python's.
+    # The leaks that a sanitizer finds in Python are Python's. ICU's default locale is LC_ALL's.
     python = f"env ASAN_OPTIONS=detect_leaks=0 {sys.executable} "
-    LOOKUPS = ["lookup", *(python + script for script in SCRIPTS)]
-    os.environ.update(PATH=FOLDER + ":" + os.environ["PATH"], PYTHONUTF8="1", ASAN_OPTIONS="")
-    os.environ["LC_ALL"] = "fr_FR.UTF-8"  # ICU takes its default locale from here
+    LOOKUPS = ["lookup", *(python + script for script in scripts)]
+    os.environ.update(LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", ASAN_OPTIONS="")
+    os.environ["PATH"] = programs + ":" + os.environ["PATH"]
     with tempfile.TemporaryDirectory() as folder:
         os.chdir(folder)
         for name, data in FILES.items():
