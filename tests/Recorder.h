@@ -26,7 +26,7 @@ struct Recorder : Velmar::IStream {
   void Read(unsigned short* value) override {
     Get('s', value);
     const bool more = consumed < input.size() && input[consumed].first == 's';
-    EXPECT_TRUE(!more || value[1] == (kFresh << 8 | kFresh)) << "a wrong length touches memory";
+    EXPECT_TRUE(!more || value[1] == (kFresh << 8 | kFresh)) << "memory touched too early";
   }
 
   template <typename Value>
