@@ -77,7 +77,7 @@ TEST(Unicode, EditsKeepSurrogatePairsAndMapFully) {
 
 TEST(Unicode, EveryByteDecodesAsByIcusConverter) {
   std::string bytes(256, '\0');
-  std::iota(bytes.begin(), bytes.end(), '\0');
+  std::iota(bytes.rbegin(), bytes.rend(), '\0');
   EXPECT_EQ(TextOf(ZRString(bytes.data(), 0, 256)),
             FromIcu(icu::UnicodeString(bytes.data(), 256, "windows-1252")));
 }
