@@ -53,7 +53,7 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
   strings.PushBack(&text);
   const Parameter string = {W(&text), {0}}, mutableString = {W(&mutableText), {0}},
                   array = {W(&strings), {0}}, units = {W(text.GetBuffer()), {0}},
-                  bytes = {W("abc"), {0}}, out = {W(written.data()), {0}}, any = {W(-7), {}},
+                  out = {W(written.data()), {0}}, any = {W(-7), {}},
                   notNegative = {W(0), {W(-1), W(-2), W(INT_MIN)}},
                   toEnd = {W(-1), {W(-2), W(INT_MIN)}}, count = {W(1), {W(0), W(-1), W(INT_MIN)}},
                   index = {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, kZRStatusIndexOutside};

@@ -98,10 +98,8 @@ class World {
     const auto operand = [&](Slot& slot) -> Operand {
       const ZRLong start = Below(3) ? Edge(valid) : 0, length = Below(3) ? Edge(valid) : -1;
       const bool own = c.m && &slot == c.t.slot && Below(2);
-      const bool null = slot.text.empty() && !valid && Below(2);
-      const unsigned short* const units = null  ? nullptr
-                                          : own ? c.m->GetTerminatedBuffer()
-                                                : exact(slot.text, true);
+      const bool zero = valid || !slot.text.empty() || Below(2);
+      const unsigned short* const units = own ? c.m->GetTerminatedBuffer() : exact(slot.text, zero);
       return {&slot, units, start, length, slot.text, Cut(slot.text, start, length)};
     };
     const std::size_t first = kind == kQuery || kind == kMake ? 0 : kStrings;
@@ -173,8 +171,6 @@ class World {
     const std::string difference = Difference();
     if (slot.text.size() > 64)
       Reset(slot);
-    if (entries_.size() > 5)
-      array_.EraseAll(), entries_.clear();
     return difference;
   }
 

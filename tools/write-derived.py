@@ -103,8 +103,8 @@ NOT_NULL = {
     "ZRMutableStringRef__*": "mutableString",
     "ZRStringPtrArrayRef__*": "array",
     "const unsigned short*": "units",
-    "const unsigned char*": "bytes",
-    "const char*": "bytes",
+    "const unsigned char*": "units",
+    "const char*": "units",
 }
 
 # A table in a page is between these lines.
