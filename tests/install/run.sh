@@ -49,7 +49,7 @@ cp -a "$installed" "$prefix"
 logged "$work/uninstall.log" "$CMAKE" --build "$BUILD" --target uninstall
 left=$(find "$installed" ! -type d -o -name ZRString -o -name Velmar -o -path '*/auto-load/*')
 [ -z "$left" ] || die "uninstalling left $left"
-! readelf -d "$prefix/$LIBDIR/libZRString.so" | grep -E 'RPATH|RUNPATH' || die "not wanted"
+! readelf -d "$prefix/$LIBDIR/libZRString.so" | grep -E '\(R(UN)?PATH' || die "a search path is set"
 ! grep -rF "$BUILD" "$prefix/$LIBDIR"/{cmake,pkgconfig} || die "these name the build folder"
 
 say "a C++ project, through find_package"
