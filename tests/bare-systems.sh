@@ -46,6 +46,7 @@ add_packages() {
 }
 
 check_packages() {
+  set -x
   local maker=$bare-maker user=$bare-user runner=$bare-runner root packages multiarch
   for root in "$maker" "$user" "$runner"; do cp -a "$bare" "$root"; done
   copy_project "$maker/project"
@@ -87,8 +88,7 @@ check_run() {
   done
 }
 
-[[ "${1:-bookworm} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] ||
-  die "wrong arguments: $*"
+[[ "${1:-trixie} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] || die "wrong: $*"
 for codename in ${1:-bookworm trixie}; do
   bare=$work/$codename logs=$top/build/bare-systems/$codename
   logged "$logs/make.log" make_debian "$codename" "$bare"
