@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "Memory.h"
 #include "Recorder.h"
 #include "Text.h"
 
@@ -33,7 +34,9 @@ TEST(Stream, AStringIsExactlyTheseCallsAndIsKeptIfOneThrows) {
       string = Make(u"abc");
       for (auto call = calls.begin(); call != calls.end(); ++call) {
         Recorder failing(Calls(calls.begin(), call));
+        const long before = heap.live;
         EXPECT_THROW(failing >> string, std::out_of_range);
+        EXPECT_EQ(heap.live, before) << "a leak";
         EXPECT_EQ(TextOf(string), u"abc");
       }
       EXPECT_EQ(&(reversed ? string << stream : stream >> string), &stream);
