@@ -55,7 +55,7 @@ build_with microsoft -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_PREFIX_PATH="$package" 
   -DCMAKE_C_STANDARD_LIBRARIES="/usr/$arch-w64-mingw32/lib/libkernel32.a" \
   -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$bin"
 grep -q '/ZRString\.lib' microsoft/build.ninja || die "find_package did not choose ZRString.lib"
-run "$bin/linked.exe" || die "$? functions do not work"
+run "$bin/linked.exe" || die "linked.exe: exit status $?"
 
 say "every DLL of the package, missing"
 for dll in "$bin"/*.dll; do
