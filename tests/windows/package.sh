@@ -13,8 +13,6 @@ work=$build/tests/windows/work
 package=$work/zrstring-$version-win$bits
 bin=$package/bin
 
-run() { "$tests/wine" "$@" 2>&1 | tr -d '\r'; }
-
 # build_with OPTION...: builds the outside project.
 build_with() {
   logged consumer.log cmake -G Ninja -S "$tests/consumer" -B "$@"
@@ -33,9 +31,7 @@ diff <(sed "s/GCC/$gcc/" "$tests/files.txt") \
 say "C++ programs, through find_package"
 build_with mingw --toolchain "$top/cmake/mingw-$arch.cmake" -DCMAKE_FIND_ROOT_PATH="$package"
 "$top/docs/check-page.py" "$top/docs/index.md" "$tests/wine" "$bin/road.exe"
-for program in "$bin"/vector*.exe; do
-  run "$program" || die "$program"
-done
+for program in "$bin"/vector*.exe; do logged program.log "$tests/wine" "$program"; done
 
 say "the examples"
 for example in wordlist lookup; do
@@ -45,7 +41,8 @@ done
 TMPDIR=$work ARGUMENTS=UTF-8 python3 "$top/tests/examples/programs_test.py" "$work"
 
 say "a program that only loads the library, from its own folder"
-run mingw/load.exe "${bin//\//\\}\\ZRString.dll" | diff <(echo "$version") -
+"$tests/wine" mingw/load.exe "${bin//\//\\}\\ZRString.dll" |
+  diff --strip-trailing-cr <(echo "$version") -
 
 say "a C program with Microsoft's ABI, through find_package and ZRString.lib"
 build_with microsoft -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_PREFIX_PATH="$package" \
@@ -55,12 +52,13 @@ build_with microsoft -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_PREFIX_PATH="$package" 
   -DCMAKE_C_STANDARD_LIBRARIES="/usr/$arch-w64-mingw32/lib/libkernel32.a" \
   -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$bin"
 grep -q '/ZRString\.lib' microsoft/build.ninja || die "find_package did not choose ZRString.lib"
-run "$bin/linked.exe" || die "linked.exe: exit status $?"
+logged program.log "$tests/wine" "$bin/linked.exe"
 
 say "every DLL of the package, missing"
 for dll in "$bin"/*.dll; do
   mv "$dll" missing.dll
-  ! WINEDEBUG=err+module run "$bin/road.exe" > missing.txt || die "${dll##*/} is not needed"
+  ! WINEDEBUG=err+module "$tests/wine" "$bin/road.exe" > missing.txt 2>&1 ||
+    die "${dll##*/} is not needed"
   grep -o "Library ${dll##*/} .*not found" missing.txt || die "${dll##*/}: $(cat missing.txt)"
   mv missing.dll "$dll"
 done
