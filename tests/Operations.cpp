@@ -24,7 +24,7 @@ Text Spliced(const Case& c, const Text& range, const Text& part) {
 
 /// The result of a search in the target's range.
 long long Found(const Case& c, std::size_t at) {
-  return c.o.part.empty() || at == Text::npos ? -1 : at + std::max(c.t.start, 0);
+  return c.o.part.empty() || at == Text::npos ? -1LL : at + std::max<ZRLong>(c.t.start, 0);
 }
 
 Text AllReplaced(Text text, const Text& oldText, const Text& newText) {

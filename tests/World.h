@@ -130,7 +130,7 @@ class World {
     c.unit = Unit();
     c.options = Pick({0, 1, 2, 3, 3, 0x8000});
     c.index = Below(2) ? Below(6) : Edge(false);
-    c.count = std::max(c.t.length, 1);
+    c.count = std::max<ZRLong>(c.t.length, 1);
     c.capacity = Pick({valid ? 0 : -1, 0, 1, 5, 27, 28, 40});
     c.released = Pick({-1, 0, 1, 2});
     c.mode = static_cast<ZRStringNormalizationMode>(Pick({2, 3, 3, 4, 5, 5, 6, 7, INT_MIN}));
@@ -189,8 +189,8 @@ class World {
   ZRLong Pick(std::initializer_list<int> values) { return values.begin()[Below(values.size())]; }
 
   ZRLong Edge(bool valid) {
-    return std::max(valid ? 0 : INT_MIN, Pick({0, 1, 2, 0, 1, 2, 3, 5, 6, 26, INT_MAX - 1, INT_MAX,
-                                               -1, -2, INT_MIN, INT_MIN + 1}));
+    return std::max<ZRLong>(valid ? 0 : INT_MIN, Pick({0, 1, 2, 0, 1, 2, 3, 5, 6, 26, INT_MAX - 1,
+                                                       INT_MAX, -1, -2, INT_MIN, INT_MIN + 1}));
   }
 
   char16_t Unit() { return Pick({'a', 'a', 'a', 'b', 'A', ' ', '*', '2', 0xB2, 0x20AC}); }
