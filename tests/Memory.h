@@ -4,6 +4,7 @@
 
 #include <unicode/uclean.h>
 
+#include <atomic>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -30,7 +31,7 @@ struct Memory {
     std::free(memory);
   }
 
-  long allocations = 0, live = 0;
+  std::atomic<long> allocations{0}, live{0};
   long first = LONG_MAX, limit = 0;  // the allocations that fail
 };
 

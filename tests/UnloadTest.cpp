@@ -4,6 +4,9 @@
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 
+#include <atomic>
+#include <thread>
+
 #include "Memory.h"
 
 // Each system has its own functions to load and unload a library.
@@ -26,7 +29,7 @@ static const auto Symbol = dlsym;
   reinterpret_cast<decltype(&name)>(reinterpret_cast<void*>(Symbol(library, #name)))
 
 // The collator and a locale with a keyword allocate ICU memory. If a clean-up missed one of them,
-// blocks would be left after each round.
+// or both threads made a collator, blocks would be left after each round.
 TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
   UErrorCode status = U_ZERO_ERROR;
   TakeIcuMemory();
@@ -37,12 +40,21 @@ TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
     const auto library = Load();
     ASSERT_NE(library, nullptr);
     const long before = heap.live;
-    ZRStringRef__* text = nullptr;
-    ZRLong result = 9;
-    ZR_FUNCTION(ZRStringCreateFromCString)("\xE4 b", 0, 3, &text);
-    ZR_FUNCTION(ZRStringICompare)(text, 0, 1, text, 2, 1, 3, &result);
-    ZR_FUNCTION(ZRStringDestroy)(text);
-    EXPECT_EQ(result, -1);
+    std::atomic<int> waiting{2};
+    const auto collate = [&] {
+      ZRStringRef__* text = nullptr;
+      ZRLong result = 9;
+      ZR_FUNCTION(ZRStringCreateFromCString)("\xE4 b", 0, 3, &text);
+      --waiting;
+      while (waiting > 0)
+        continue;  // until both threads are at their first use of the collator
+      ZR_FUNCTION(ZRStringICompare)(text, 0, 1, text, 2, 1, 3, &result);
+      ZR_FUNCTION(ZRStringDestroy)(text);
+      EXPECT_EQ(result, -1);
+    };
+    std::thread other(collate);
+    collate();
+    other.join();
     EXPECT_GT(heap.live, before);
     Unload(library);
     ASSERT_FALSE(IsLoaded());
