@@ -95,12 +95,20 @@ TEST_F(Allocation, FailureInConversionsOutputAndArrayCreationIsReported) {
     isThrown([&] { return FromUtf8(bytes) == string; });
     isThrown([&] { return ToUtf8(string) == bytes; });
     isThrown([&] { return stream.seekp(0), (stream << string).tellp() == length; });
-    isThrown([] {
-      ZRStringPtrArrayRef__* array = nullptr;
-      if (ZRStringPtrArrayCreate(&array) == 12 && !array)
-        throw std::bad_alloc();
-      return ZRStringPtrArrayDestroy(array) == 0;
-    });
+    const auto isReported = [&](auto create, auto... source) {
+      isThrown([=] {
+        ZRStringPtrArrayRef__* array = nullptr;
+        ZRLong status = 0;
+        EXPECT_NO_THROW(status = create(source..., &array));
+        if (status == kZRStatusIndexOutside && !array)
+          throw std::bad_alloc();
+        return ZRStringPtrArrayDestroy(array) == 0;
+      });
+    };
+    ZRStringPtrArray strings;
+    strings.PushBack(nullptr);
+    isReported(ZRStringPtrArrayCreate);
+    isReported(ZRStrPtrArrCreateFromZRStrPtrArr, strings.GetZRStringPtrArrayRef());
   }
 }
 

@@ -18,6 +18,7 @@ static void ExpectNoText(ZRStringMutator& string) {
   EXPECT_EQ(string.GetTerminatedBuffer(), nullptr);
   EXPECT_EQ(string.GetBuffer(), nullptr);
   EXPECT_EQ(string.GetLength(), 0);
+  EXPECT_EQ(string.IsEmpty(), 1);
 }
 
 TEST(Buffer, CallsOutOfOrderChangeNothingAndTheCapacityBoundsTheLength) {
@@ -45,6 +46,7 @@ TEST(ErrorState, EndsOnlyWithANewText) {
     string.ReleaseBuffer(-1);           // none is open
     return ExpectNoText(string), string;
   };
+  EXPECT_FALSE(lost() == Make(u""));
   EXPECT_EQ(TextOf(lost().SetTo(Make(u"xyz"), 1, 1)), u"y");
   EXPECT_EQ(TextOf(lost() = Make(u"xyz")), u"xyz");
   EXPECT_TRUE((lost().Truncate(0), string.GetBuffer()));

@@ -173,7 +173,9 @@ bool PassedOnAndDeleted(const Case& c) {
   const bool passed =
       PassedOn(*c.a, read) && std::equal(read.Begin(), read.End(), c.a->Begin(), c.a->End(), same);
   read.PushBack(nullptr);  // DeleteAll() skips it
-  return Called(ZRStringPtrArrayDeleteAll, read.GetZRStringPtrArrayRef()) && read.Empty() && passed;
+  const bool holdsNull = !read[-1];
+  return holdsNull && Called(ZRStringPtrArrayDeleteAll, read.GetZRStringPtrArrayRef()) &&
+         read.Empty() && passed;
 }
 
 constexpr long long kNone = 12;
