@@ -1,5 +1,6 @@
 // What compiled programs rely on: sizes, slots of virtual members, handles as addresses.
 #include <Velmar/IStream.h>
+#include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <gtest/gtest.h>
@@ -37,6 +38,8 @@ TEST(Layout, HandlesAreAddresses) {
   ZRStringPtrArray array;
   EXPECT_EQ(static_cast<void*>(string.GetZRStringRef()), &string);
   EXPECT_EQ(static_cast<void*>(string.GetZRMutableStringRef()), &string);
+  EXPECT_EQ(ZRMutableStringDKInterfaceImpl::ZRStringRefConst(string.GetZRMutableStringRef()),
+            string.GetZRStringRef());
   EXPECT_EQ(static_cast<void*>(array.GetZRStringPtrArrayRef()), &array);
   EXPECT_EQ(GetZRStringPtrArrayFromRef(nullptr), nullptr);
   EXPECT_EQ(TextOf(ZRStringMutator(static_cast<ZRMutableStringRef__*>(nullptr))), u"");

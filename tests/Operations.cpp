@@ -136,7 +136,7 @@ long long Give(Case& c, const ZRString* made) {
 long long Give(Case& c, ZRStringRef__* s) { return Give(c, &GetZRStringFromRef(s)); }
 long long Give(Case& c, ZRMutableStringRef__* s) { return Give(c, &GetZRStringMutatorFromRef(s)); }
 
-/// An operation: its model, then all forms of its call.
+/// An operation: its model, which runs after the call, then all forms of its call.
 template <typename... Forms>
 Operation Row(const char* name, Kind kind, Function model, Forms... forms) {
   return {name, kind, model, {Form{forms}...}};

@@ -58,7 +58,7 @@ TEST(Stream, AnArrayIsExactlyTheseCallsAndGetsWhatIsComplete) {
     Recorder failing(Calls(calls.begin(), calls.begin() + n));
     OwningArray read;
     EXPECT_THROW(failing >> read, std::out_of_range);
-    EXPECT_EQ(read.Size(), (n > 1) + (n > 3));
+    EXPECT_EQ(read.Size(), (n > 1) + (n > 3));  // after the count, records of 1 and 2 calls
   }
   Recorder stream(calls);
   EXPECT_EQ(&(stream << array >> array), &stream);

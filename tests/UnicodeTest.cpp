@@ -2,6 +2,7 @@
 #include <ZRString/ZRStringHandles.h>
 #include <ZRString/ZRStringMutator.h>
 #include <gtest/gtest.h>
+#include <unicode/locid.h>
 #include <unicode/unistr.h>
 
 #include <cstdlib>
@@ -26,6 +27,7 @@ Text FromIcu(const icu::UnicodeString& text) { return Text(text.getBuffer(), tex
 
 constexpr ZRULong kUnits = 100, kCodePoints = 101;  // orders without options
 
+/// The results of all forms of a comparison, which are one number if the forms agree.
 std::set<int> Compared(const ZRString& left, const Text& text, ZRULong order) {
   const ZRString right = Make(text);
   const ZRLong size = right.GetLength();
@@ -38,7 +40,7 @@ std::set<int> Compared(const ZRString& left, const Text& text, ZRULong order) {
   return {ZR_RESULTS(ICompare, 0, size, order)};
 }
 
-/// Whether `source` normalizes to `expected`; the result says whether the text was replaced.
+/// Whether `source` normalizes to `expected`, and Normalize() says so if that is another text.
 bool NormalizesTo(const Text& source, int mode, const Text& expected) {
   ZRStringMutator string(Make(source));
   const bool replaced = string.Normalize(static_cast<ZRStringNormalizationMode>(mode));
@@ -68,11 +70,16 @@ TEST(Unicode, EveryFormOfAComparisonHasTheOrderOfItsOptions) {
     }
 }
 
-TEST(Unicode, EditsKeepSurrogatePairsAndMapFully) {
+TEST(Unicode, EditsKeepSurrogatePairsAndMapCaseAsTheLocaleDoes) {
   EXPECT_EQ(TextOf(ZRStringMutator(Make(u"a\U0001F600b")).Reverse(0, -1)), u"b\U0001F600a");
   EXPECT_EQ(TextOf(ZRStringMutator(Make(u"stra\u00DFe")).ToUpper()), u"STRASSE");
   EXPECT_EQ(TextOf(ZRStringMutator(Make(u"\u3000 a b\t")).Trim()), u"a b");
   EXPECT_EQ(Make(u"\U0001F600").LastIndexOf(0xDE00), -1);
+  UErrorCode status = U_ZERO_ERROR;
+  icu::Locale::setDefault("tr", status);
+  EXPECT_EQ(TextOf(ZRStringMutator(Make(u"iI")).ToUpper()), u"\u0130I");
+  EXPECT_EQ(TextOf(ZRStringMutator(Make(u"iI")).ToLower()), u"i\u0131");
+  icu::Locale::setDefault("en_US", status);
 }
 
 TEST(Unicode, EveryByteDecodesAsByIcusConverter) {
