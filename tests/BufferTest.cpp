@@ -11,6 +11,8 @@ static void ExpectNoText(ZRStringMutator& string) {
   const ZRString other = Make(u"xyz");
   string.Append(other, 0, kZRToEnd).Insert(0, other, 0, kZRToEnd);
   string.Replace(0, 1, other, 0, kZRToEnd).RemoveBetween(0, INT32_MAX).Remove(0, kZRToEnd);
+  string.Insert(0, Raw(u"x"), 0, 1).SetCharAt(0, 'x').Trim() += 'x';
+  string.PadLeading(5, 'x');
   string.PadTrailing(5, 'x');
   string.Truncate(1);
   string.ReleaseBuffer(-2);
@@ -44,6 +46,7 @@ TEST(ErrorState, EndsOnlyWithANewText) {
   const auto lost = [&]() -> ZRStringMutator& {
     string.PadLeading(INT32_MAX, 'x');  // more than ICU can hold
     string.ReleaseBuffer(-1);           // none is open
+    const ZRString sharer(string);      // so the first edit detaches
     return ExpectNoText(string), string;
   };
   EXPECT_FALSE(lost() == Make(u""));
