@@ -80,7 +80,7 @@ TEST(Interop, EveryPlaceAndLength) {
     for (const std::string& other : parts) {
       std::string bytes;
       for (std::size_t i = 0; i < 600; ++i, bytes += part) {
-        const std::string letters(i % 2 * i, 'a');
+        const std::string letters(i % 32 ? 0 : i, 'a');
         const std::string text = bytes + letters + other + bytes.substr(0, i % 32);
         ASSERT_TRUE(SameAsIcu(text)) << testing::PrintToString(text);
         ASSERT_TRUE(SameAsIcu(std::u16string(Utf16View(FromUtf8(text))))) << text.size();
