@@ -107,7 +107,7 @@ NOT_NULL = {
     "const char*": "units",
 }
 
-# A table in a page is between these lines.
+# The declarations in the Python module, and a table in a page, are between these lines.
 PYTHON_BEGIN = "# Written by tools/write-derived.py: edit ZRStringHandles.h and run that.\n"
 PYTHON_END = "# Up to here.\n"
 TABLE_BEGIN = "<!-- written by tools/write-derived.py -->\n\n"
