@@ -2,9 +2,12 @@
 #define ZRSTRING_STRING_CODEUNITS_H
 
 #include <ZRString/ZRTypes.h>
-#include <unicode/char16ptr.h>
+#include <unicode/unistr.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <string>
 
 // The interface's code unit, unsigned short, and ICU's, char16_t, are distinct types of the same
 // width. All conversions between pointers to them are here, with ICU's aliasing barrier.
@@ -29,9 +32,19 @@ inline unsigned short* FromIcu(char16_t* units) {
 /// leave room to grow write past that storage if the text is a few units longer.
 constexpr std::int32_t kMaxLength = 0x7FFFFFF5;
 
+/// The number of units that ICU keeps inside its string object.
+constexpr std::int32_t kMaxInside =
+    (UNISTR_OBJECT_SIZE - sizeof(void*) - sizeof(std::int16_t)) / sizeof(char16_t);
+
 /// The length of a raw operand with -1 for every negative length. Some of ICU 72's members read
 /// only -1 as "up to the terminating zero unit".
 inline std::int32_t RawLength(ZRLong length) { return length < 0 ? -1 : length; }
+
+/// Units that belong to somebody else. `first` is null where there is no text.
+struct Units {
+  const char16_t* first;
+  std::int32_t count;
+};
 
 /// A raw operand as the arguments of an ICU call.
 ///
@@ -48,15 +61,14 @@ struct RawOperand {
     }
   }
 
+  /// The operand's units if its length is known, otherwise null.
+  Units Known() const {
+    return units && length >= 0 ? Units{units + start, length} : Units{nullptr, 0};
+  }
+
   const char16_t* units;
   std::int32_t start;
   std::int32_t length;
-};
-
-/// Units that belong to somebody else.
-struct Units {
-  const char16_t* first;
-  std::int32_t count;
 };
 
 /// A raw operand with its start added to the pointer; empty for a null text.
@@ -65,6 +77,18 @@ struct Units {
 /// calls that do not take a null text for an empty one.
 inline Units RawUnits(const unsigned short* text, ZRLong start, ZRLong length) {
   return text ? Units{ToIcu(text + start), RawLength(length)} : Units{nullptr, 0};
+}
+
+/// The number of units before the zero unit, at most INT32_MAX.
+inline std::int32_t TerminatedLength(const char16_t* text) {
+  return static_cast<std::int32_t>(
+      std::min<std::size_t>(std::char_traits<char16_t>::length(text), INT32_MAX));
+}
+
+/// A raw operand with its start added to the pointer and its length measured.
+inline Units MeasuredUnits(const unsigned short* text, ZRLong start, ZRLong length) {
+  const Units raw = RawUnits(text, start, length);
+  return raw.count < 0 ? Units{raw.first, TerminatedLength(raw.first)} : raw;
 }
 
 #endif

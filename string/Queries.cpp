@@ -4,7 +4,9 @@
 #include <cstdint>
 
 #include "string/CodeUnits.h"
+#include "string/Comparison.h"
 #include "string/Range.h"
+#include "string/Search.h"
 #include "string/ZRStringImplementation.h"
 
 // The members of ZRString that read the text, except ICompare().
@@ -12,6 +14,25 @@
 // CMakeLists.txt compiles this file with -fno-exceptions. Most members here are noexcept and end in
 // a call of ICU, whose functions do not throw but are not declared noexcept. With exceptions, the
 // compiler could not turn such a call into a jump.
+//
+// Comparison.h and Search.h answer before ICU, where they can. What they leave undecided goes to
+// the ICU call below.
+
+namespace {
+
+signed char CompareWhole(const icu::UnicodeString& left, const icu::UnicodeString& right) {
+  if (const signed char order = InUnitOrder(UnitsOf(left), UnitsOf(right)); order != kUndecided)
+    return order;
+  return left.compare(right);
+}
+
+/// Index of the first occurrence of `pattern` in `range`, counted from the start of `text`.
+ZRLong IndexIn(const icu::UnicodeString& text, Units range, Units pattern) {
+  const std::int32_t place = IndexOf(range, pattern);
+  return place < 0 ? kZRNotFound : static_cast<ZRLong>(range.first + place - text.getBuffer());
+}
+
+}  // namespace
 
 bool ZRString::operator==(const ZRString& other) const noexcept {
   return body_ == other.body_ || TextOf(body_) == TextOf(other.body_);
@@ -22,23 +43,27 @@ bool ZRString::operator!=(const ZRString& other) const noexcept {
 }
 
 bool ZRString::operator>(const ZRString& other) const noexcept {
-  return TextOf(body_) > TextOf(other.body_);
+  return CompareWhole(TextOf(body_), TextOf(other.body_)) > 0;
 }
 
 bool ZRString::operator<(const ZRString& other) const noexcept {
-  return TextOf(body_) < TextOf(other.body_);
+  return CompareWhole(TextOf(body_), TextOf(other.body_)) < 0;
 }
 
 bool ZRString::operator>=(const ZRString& other) const noexcept {
-  return TextOf(body_) >= TextOf(other.body_);
+  return CompareWhole(TextOf(body_), TextOf(other.body_)) >= 0;
 }
 
 bool ZRString::operator<=(const ZRString& other) const noexcept {
-  return TextOf(body_) <= TextOf(other.body_);
+  return CompareWhole(TextOf(body_), TextOf(other.body_)) <= 0;
 }
 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, ZRLong srcStart,
                               ZRLong srcLength) const noexcept {
+  const signed char order = InUnitOrder(UnitsOf(TextOf(body_), start, length),
+                                        UnitsOf(TextOf(src.body_), srcStart, srcLength));
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compare(start, Resolved(length), TextOf(src.body_), srcStart,
                                Resolved(srcLength));
 }
@@ -46,6 +71,9 @@ signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const unsigned short* src,
                               ZRLong srcStart, ZRLong srcLength) const noexcept {
   const RawOperand raw(src, srcStart, srcLength);
+  const signed char order = InUnitOrder(UnitsOf(TextOf(body_), start, length), raw.Known());
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compare(start, Resolved(length), raw.units, raw.start, raw.length);
 }
 
@@ -53,12 +81,20 @@ signed char ZRString::CompareBetween(ZRLong start, ZRLong end, const ZRString& s
                                      ZRLong srcEnd) const noexcept {
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
+  const signed char order =
+      InUnitOrder(UnitsOf(TextOf(body_), own), UnitsOf(TextOf(src.body_), other));
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compareBetween(own.start, own.limit, TextOf(src.body_), other.start,
                                       other.limit);
 }
 
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const ZRString& src,
                                             ZRLong srcStart, ZRLong srcLength) const noexcept {
+  const signed char order = InCodePointOrder(UnitsOf(TextOf(body_), start, length),
+                                             UnitsOf(TextOf(src.body_), srcStart, srcLength));
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compareCodePointOrder(start, Resolved(length), TextOf(src.body_), srcStart,
                                              Resolved(srcLength));
 }
@@ -66,6 +102,9 @@ signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const Z
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
                                             ZRLong srcStart, ZRLong srcLength) const noexcept {
   const RawOperand raw(src, srcStart, srcLength);
+  const signed char order = InCodePointOrder(UnitsOf(TextOf(body_), start, length), raw.Known());
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
                                              raw.length);
 }
@@ -74,6 +113,10 @@ signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, con
                                                    ZRLong srcStart, ZRLong srcEnd) const noexcept {
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
+  const signed char order =
+      InCodePointOrder(UnitsOf(TextOf(body_), own), UnitsOf(TextOf(src.body_), other));
+  if (order != kUndecided)
+    return order;
   return TextOf(body_).compareCodePointOrderBetween(own.start, own.limit, TextOf(src.body_),
                                                     other.start, other.limit);
 }
@@ -107,12 +150,19 @@ unsigned char ZRString::EndsWith(const unsigned short* src, ZRLong srcStart,
 
 ZRLong ZRString::Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength,
                       ZRLong start, ZRLong length) const noexcept {
+  const Units range = UnitsOf(TextOf(body_), start, length);
+  const Units wanted = UnitsOf(TextOf(pattern.body_), patternStart, patternLength);
+  if (range.first && wanted.count > 0)
+    return IndexIn(TextOf(body_), range, wanted);
   return TextOf(body_).indexOf(TextOf(pattern.body_), patternStart, Resolved(patternLength), start,
                                Resolved(length));
 }
 
 ZRLong ZRString::Find(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
                       ZRLong start, ZRLong length) const noexcept {
+  const Units range = UnitsOf(TextOf(body_), start, length);
+  if (range.first && pattern && patternStart >= 0 && patternLength > 0)
+    return IndexIn(TextOf(body_), range, {ToIcu(pattern) + patternStart, patternLength});
   return TextOf(body_).indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
                                Resolved(length));
 }

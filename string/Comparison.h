@@ -1,0 +1,136 @@
+#ifndef ZRSTRING_STRING_COMPARISON_H
+#define ZRSTRING_STRING_COMPARISON_H
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+#include "string/Blocks.h"
+#include "string/CodeUnits.h"
+
+// Comparisons that answer before ICU, where they can: ICU 72 compares unit by unit, these compare
+// blocks. What they decide, they decide as ICU does. Null units are left to ICU: of an open buffer,
+// of a text in the error state, or of a raw operand that is not there or whose length is not known.
+
+/// The result of a comparison that only ICU decides.
+constexpr signed char kUndecided = 2;
+
+constexpr bool IsLead(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
+constexpr bool IsTrail(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
+
+/// Four units, for operations on all of them whose result does not depend on their order.
+inline std::uint64_t FourUnits(const char16_t* units) {
+  std::uint64_t word;
+  std::memcpy(&word, units, sizeof word);
+  return word;
+}
+
+/// The number of units before the first difference, at most `count`.
+inline std::int32_t EqualUnits(const char16_t* left, const char16_t* right, std::int32_t count) {
+  const auto differences = [&](std::int32_t at) {
+    return LoadBlock(left + at) ^ LoadBlock(right + at);
+  };
+  constexpr std::int32_t kRun = 8 * kBlock;
+  std::int32_t i = 0;
+  for (; count - i >= kRun; i += kRun) {
+    Block any{};
+    for (std::int32_t k = 0; k < kRun; k += kBlock)
+      any |= differences(i + k);
+    if (Any(any))
+      break;
+  }
+  for (; count - i >= kBlock; i += kBlock)
+    if (const Block different = differences(i); Any(different))
+      return i + FirstOf(different);
+  while (i < count && left[i] == right[i])
+    ++i;
+  return i;
+}
+
+/// Orders two numbers.
+constexpr signed char Order(std::int32_t left, std::int32_t right) {
+  return static_cast<signed char>((left > right) - (left < right));
+}
+
+/// Compares in code unit order. Decides all texts but null ones.
+inline signed char InUnitOrder(Units left, Units right) {
+  if (!left.first || !right.first)
+    return kUndecided;
+  const std::int32_t shorter = std::min(left.count, right.count);
+  const std::int32_t equal = EqualUnits(left.first, right.first, shorter);
+  return equal < shorter ? Order(left.first[equal], right.first[equal])
+                         : Order(left.count, right.count);
+}
+
+/// Compares in code point order. That is the order of the units in which the texts first differ.
+/// Does not decide if both are at or above U+D800, where either may be a surrogate.
+inline signed char InCodePointOrder(Units left, Units right) {
+  if (!left.first || !right.first)
+    return kUndecided;
+  const std::int32_t shorter = std::min(left.count, right.count);
+  const std::int32_t equal = EqualUnits(left.first, right.first, shorter);
+  if (equal == shorter)
+    return Order(left.count, right.count);
+  const char16_t ours = left.first[equal], theirs = right.first[equal];
+  return ours >= 0xD800 && theirs >= 0xD800 ? kUndecided : Order(ours, theirs);
+}
+
+/// Whether every unit is below `limit`.
+inline bool AreBelow(Units text, char16_t limit) {
+  std::int32_t i = 0;
+  for (; text.count - i >= kBlock; i += kBlock)
+    if (Any(LoadBlock(text.first + i) >= BlockOf(limit)))
+      return false;
+  while (i < text.count && text.first[i] < limit)
+    ++i;
+  return i == text.count;
+}
+
+constexpr bool IsAscii(char16_t unit) { return unit < 0x80; }
+
+constexpr char16_t FoldAscii(char16_t unit) {
+  return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 0x20) : unit;
+}
+
+/// FoldAscii() of four ASCII units.
+constexpr std::uint64_t FoldFourAscii(std::uint64_t units) {
+  constexpr std::uint64_t kEach = 0x0001000100010001;
+  // The bit 0x80 of each unit: whether it is at or above A, and whether it is above Z.
+  const std::uint64_t fromA = units + (0x80 - u'A') * kEach;
+  const std::uint64_t aboveZ = units + (0x80 - u'Z' - 1) * kEach;
+  return units | ((fromA & ~aboveZ & 0x80 * kEach) >> 2);
+}
+
+/// Compares without regard to case, by ICU's default folding, in the order of units or code points.
+/// Decides as far as units are equal or ASCII. Otherwise both texts are moved past what is equal:
+/// the rest decides, because folding looks at one code point at a time. No surrogate pair is split.
+inline signed char IgnoringAsciiCase(Units& left, Units& right) {
+  if (!left.first || !right.first)
+    return kUndecided;
+  constexpr std::uint64_t kNotAscii = 0xFF80FF80FF80FF80;
+  const std::int32_t shorter = std::min(left.count, right.count);
+  std::int32_t i = 0;
+  for (; shorter - i >= 4; i += 4) {
+    const std::uint64_t ours = FourUnits(left.first + i), theirs = FourUnits(right.first + i);
+    if (ours != theirs &&
+        (((ours | theirs) & kNotAscii) != 0 || FoldFourAscii(ours) != FoldFourAscii(theirs)))
+      break;
+  }
+  for (; i < shorter; ++i) {
+    const char16_t ours = left.first[i], theirs = right.first[i];
+    if (ours == theirs)
+      continue;
+    if (!IsAscii(ours) || !IsAscii(theirs)) {
+      if (i > 0 && IsLead(left.first[i - 1]))
+        --i;
+      left = {left.first + i, left.count - i};
+      right = {right.first + i, right.count - i};
+      return kUndecided;
+    }
+    if (FoldAscii(ours) != FoldAscii(theirs))
+      return Order(FoldAscii(ours), FoldAscii(theirs));
+  }
+  return Order(left.count, right.count);
+}
+
+#endif
