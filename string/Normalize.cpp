@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "string/CodeUnits.h"
+#include "string/Comparison.h"
 #include "string/ZRStringImplementation.h"
 
 namespace {
@@ -25,11 +26,37 @@ UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
   return UNORM_NONE;
 }
 
+/// The least unit that may occur in a text which is not in the form: each unit below it is, alone
+/// and next to any other below it. Sequences of them have neither a mark to reorder nor a pair to
+/// compose. 0 for no form.
+constexpr char16_t FirstUncertain(ZRStringNormalizationMode mode) {
+  switch (mode) {
+    case kZRNormalizationNFC:
+    case kZRNormalizationFCD:
+      return 0x0300;  // the first combining mark
+    case kZRNormalizationNFD:
+      return 0x00C0;  // the first letter that decomposes
+    case kZRNormalizationNFKC:
+    case kZRNormalizationNFKD:
+      return 0x00A0;  // the no-break space
+  }
+  return 0;
+}
+
+/// Whether a text is certainly in a form already, and need not be checked by ICU.
+bool IsCertain(Units text, ZRStringNormalizationMode mode) {
+  const char16_t limit = FirstUncertain(mode);
+  return text.first && AreBelow(text, limit);
+}
+
 }  // namespace
 
 unsigned char ZRStringMutator::Normalize(ZRStringNormalizationMode mode) {
   const ZRLong length = GetLength();
-  const icu::UnicodeString current(false, ToIcu(GetBuffer()), length);  // an alias, not a copy
+  const char16_t* const units = ToIcu(GetBuffer());
+  if (IsCertain({units, length}, mode))
+    return 0;
+  const icu::UnicodeString current(false, units, length);  // an alias, not a copy
   const UNormalizationMode icuMode = IcuMode(mode);
   UErrorCode status = U_ZERO_ERROR;
   if (icu::Normalizer::quickCheck(current, icuMode, status) == UNORM_YES)
