@@ -1,10 +1,15 @@
 #include <ZRString/ZRStringMutator.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <functional>
+#include <string>
 
 #include "string/CodeUnits.h"
+#include "string/Growth.h"
 #include "string/Range.h"
+#include "string/Search.h"
 #include "string/ZRStringImplementation.h"
 
 namespace {
@@ -26,11 +31,89 @@ icu::UnicodeString Operand(const icu::UnicodeString& edited, const unsigned shor
   return copy;
 }
 
+using Traits = std::char_traits<char16_t>;
+
+Units Behind(Units text, std::int32_t count) { return {text.first + count, text.count - count}; }
+
+/// Writes `text` with every occurrence of `oldText` in its first `searched` units replaced. The
+/// result may overlap the text, if nothing is overwritten before it has been read.
+void WriteReplaced(Units text, std::int32_t searched, Units oldText, Units newText, char16_t* to) {
+  std::int32_t place;
+  while ((place = IndexOf({text.first, searched}, oldText)) >= 0) {
+    Traits::move(to, text.first, place);
+    Traits::copy(to + place, newText.first, newText.count);
+    to += place + newText.count;
+    text = Behind(text, place + oldText.count);
+    searched -= place + oldText.count;
+  }
+  Traits::move(to, text.first, text.count);
+}
+
+/// The room that ICU asks for when a text outgrows a capacity while it grows from `length` to
+/// `limit` by `step` units at a time.
+std::int32_t GrownCapacity(std::int64_t capacity, std::int64_t length, std::int64_t step,
+                           std::int64_t limit) {
+  std::int64_t asked = 0;
+  while (capacity < limit) {
+    length += ((capacity - length) / step + 1) * step;
+    asked = std::min<std::int64_t>(length + length / 4 + 128, kMaxLength);
+    // ICU adds a zero unit and a 32-bit count, and rounds up to 16 bytes.
+    capacity = (((asked + 1) * 2 + 4 + 15) / 16 * 16 - 4) / 2;
+  }
+  return static_cast<std::int32_t>(asked);
+}
+
+/// ICU's findAndReplace() in one pass: ICU 72 moves the rest of the text at each match, which takes
+/// quadratic time if the lengths differ. The storage is what ICU would leave.
+void ReplaceAll(icu::UnicodeString& edited, Units range, Units oldText, Units newText) {
+  const std::int32_t first = range.first && oldText.count > 0 ? IndexOf(range, oldText) : -1;
+  if (first < 0)
+    return;
+  const Units searched = Behind(range, first);
+  Units rest = Behind(searched, oldText.count);
+  std::int32_t place = IndexOf(rest, oldText);
+  const auto kept = static_cast<std::int32_t>(searched.first - edited.getBuffer());
+  if (place < 0)
+    return ReplaceUnlessTooLong(edited, kept, oldText.count, newText);
+  std::int64_t matches = 1;
+  for (; place >= 0; place = IndexOf(rest, oldText)) {
+    rest = Behind(rest, place + oldText.count);
+    ++matches;
+  }
+  const Units whole = UnitsOf(edited);
+  const std::int64_t step = std::int64_t{newText.count} - oldText.count;
+  const std::int64_t grown = whole.count + matches * step;
+  if (step > 0 && grown > kMaxGrown)
+    return edited.setToBogus();
+
+  const auto length = static_cast<std::int32_t>(grown);
+  rest = Behind(whole, kept);
+  if (length <= edited.getCapacity()) {
+    char16_t* const to = edited.getBuffer(length) + kept;
+    if (step > 0)  // reads from the end of the room
+      rest.first = Traits::move(to + (length - whole.count), rest.first, rest.count);
+    WriteReplaced(rest, searched.count, oldText, newText, to);
+    edited.releaseBuffer(length);
+    return;
+  }
+  icu::UnicodeString roomier(GrownCapacity(edited.getCapacity(), whole.count, step, length), 0, 0);
+  if (roomier.isBogus())
+    roomier = icu::UnicodeString(length, 0, 0);
+  char16_t* const to = roomier.getBuffer(length);
+  if (!to)
+    return edited.setToBogus();
+  Traits::copy(to, whole.first, kept);
+  WriteReplaced(rest, searched.count, oldText, newText, to + kept);
+  roomier.releaseBuffer(length);
+  edited.swap(roomier);
+}
+
 void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
                 const icu::UnicodeString& oldText, ZRLong oldStart, ZRLong oldLength,
                 const icu::UnicodeString& newText, ZRLong newStart, ZRLong newLength) {
-  edited.findAndReplace(start, Resolved(length), oldText, oldStart, Resolved(oldLength), newText,
-                        newStart, Resolved(newLength));
+  if (!oldText.isBogus() && !newText.isBogus())
+    ReplaceAll(edited, UnitsOf(edited, start, length), UnitsOf(oldText, oldStart, oldLength),
+               UnitsOf(newText, newStart, newLength));
 }
 
 /// FindAndReplace() where an operand is the string under edit: ICU 72 reads the operands anew at

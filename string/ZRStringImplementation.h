@@ -15,7 +15,7 @@
 /// A body that is edited has one holder. A shared body changes in two cases only: through a
 /// writable buffer that was already open when the body was shared, and by GetTerminatedBuffer(),
 /// which may move the units. No two bodies share storage inside ICU.
-struct ZRStringImplementation : ZRStringHolderCount {
+struct ZRStringImplementation : public ZRStringHolderCount {
   /// An empty body.
   ZRStringImplementation() = default;
 

@@ -1,12 +1,14 @@
 #include <ZRString/ZRStringMutator.h>
 
 #include "string/CodeUnits.h"
+#include "string/Growth.h"
 #include "string/Handles.h"
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
 // Every edit detaches first, then reads the operands' bodies, resolves lengths and makes one ICU
-// call. So an operand that is this string is read from its new body.
+// call. So an operand that is this string is read from its new body. Growth.h keeps texts that
+// would become too long from ICU.
 
 namespace {
 
@@ -24,6 +26,30 @@ namespace {
 }
 
 }  // namespace
+
+void ReplaceUnlessTooLong(icu::UnicodeString& text, ZRLong start, ZRLong length, Units added) {
+  const Units replaced = UnitsOf(text, start, length);
+  if (replaced.first && std::int64_t{text.length()} - replaced.count + added.count > kMaxGrown)
+    text.setToBogus();
+  else
+    text.replace(start, Resolved(length), added.first, added.count);
+}
+
+ZRStringMutator& ZRStringLongEdit::Replace(ZRStringMutator& edited, ZRLong start, ZRLong length,
+                                           const ZRString& source, ZRLong srcStart,
+                                           ZRLong srcLength) {
+  ReplaceUnlessTooLong(TextOf(edited.body_), start, length,
+                       UnitsOf(TextOf(source.body_), srcStart, srcLength));
+  return edited;
+}
+
+ZRStringMutator& ZRStringLongEdit::Replace(ZRStringMutator& edited, ZRLong start, ZRLong length,
+                                           const unsigned short* text, ZRLong srcStart,
+                                           ZRLong srcLength) {
+  ReplaceUnlessTooLong(TextOf(edited.body_), start, length,
+                       MeasuredUnits(text, srcStart, srcLength));
+  return edited;
+}
 
 ZRStringMutator::ZRStringMutator() = default;
 
@@ -68,24 +94,32 @@ ZRStringMutator& ZRStringMutator::SetCharAt(ZRLong offset, unsigned short unit) 
 
 ZRStringMutator& ZRStringMutator::operator+=(unsigned short unit) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), 1))
+    return ZRStringLongEdit::Replace(*this, INT32_MAX, 0, &unit, 0, 1);
   TextOf(body_) += static_cast<char16_t>(unit);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::operator+=(const ZRString& other) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), TextOf(other.body_).length()))
+    return ZRStringLongEdit::Replace(*this, INT32_MAX, 0, other, 0, kZRToEnd);
   TextOf(body_) += TextOf(other.body_);
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Append(const ZRString& source, ZRLong start, ZRLong length) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), TextOf(source.body_).length()))
+    return ZRStringLongEdit::Replace(*this, INT32_MAX, 0, source, start, length);
   TextOf(body_).append(TextOf(source.body_), start, Resolved(length));
   return *this;
 }
 
 ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong start, ZRLong length) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), length))
+    return ZRStringLongEdit::Replace(*this, INT32_MAX, 0, text, start, length);
   TextOf(body_).append(ToIcu(text), start, length);
   return *this;
 }
@@ -93,6 +127,8 @@ ZRStringMutator& ZRStringMutator::Append(const unsigned short* text, ZRLong star
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), TextOf(source.body_).length()))
+    return ZRStringLongEdit::Replace(*this, position, 0, source, start, length);
   TextOf(body_).insert(position, TextOf(source.body_), start, Resolved(length));
   return *this;
 }
@@ -100,6 +136,8 @@ ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const ZRString& source
 ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* text, ZRLong start,
                                          ZRLong length) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), length))
+    return ZRStringLongEdit::Replace(*this, position, 0, text, start, length);
   TextOf(body_).insert(position, ToIcu(text), start, length);
   return *this;
 }
@@ -107,6 +145,8 @@ ZRStringMutator& ZRStringMutator::Insert(ZRLong position, const unsigned short* 
 ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length, const ZRString& source,
                                           ZRLong srcStart, ZRLong srcLength) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), TextOf(source.body_).length()))
+    return ZRStringLongEdit::Replace(*this, position, length, source, srcStart, srcLength);
   TextOf(body_).replace(position, Resolved(length), TextOf(source.body_), srcStart,
                         Resolved(srcLength));
   return *this;
@@ -116,6 +156,8 @@ ZRStringMutator& ZRStringMutator::Replace(ZRLong position, ZRLong length,
                                           const unsigned short* text, ZRLong srcStart,
                                           ZRLong srcLength) {
   CopyOnWrite();
+  if (MayOutgrow(TextOf(body_), srcLength))
+    return ZRStringLongEdit::Replace(*this, position, length, text, srcStart, srcLength);
   TextOf(body_).replace(position, Resolved(length), ToIcu(text), srcStart, srcLength);
   return *this;
 }
@@ -125,6 +167,9 @@ ZRStringMutator& ZRStringMutator::ReplaceBetween(ZRLong start, ZRLong end, const
   CopyOnWrite();
   const Range own = Between(start, end);
   const Range other = Between(srcStart, srcEnd);
+  if (MayOutgrow(TextOf(body_), TextOf(source.body_).length()))
+    return ZRStringLongEdit::Replace(*this, own.start, own.Length(), source, other.start,
+                                     other.Length());
   TextOf(body_).replaceBetween(own.start, own.limit, TextOf(source.body_), other.start,
                                other.limit);
   return *this;

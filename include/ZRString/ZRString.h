@@ -20,7 +20,7 @@ class ZRStringMutator;
 /// programs see.
 ///
 /// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it.
-struct ZRStringHolderCount {
+class ZRStringHolderCount {
  public:
   bool IsShared() const noexcept { return count_ > 1; }  ///< Whether there is more than one holder.
 
@@ -280,6 +280,7 @@ class ZR_API ZRString {
 
  private:
   friend class ZRStringMutator;
+  friend struct ZRStringLongEdit;  // inside the library
 
   ZRString();
 

@@ -3,6 +3,9 @@
 
 #include <ZRString/ZRString.h>
 
+#include <type_traits>
+#include <utility>
+
 /// A Unicode normalization form. The numbers are this library's own, not ICU's.
 enum ZRStringNormalizationMode : int {
   kZRNormalizationNFC = 2,   ///< canonical composition
@@ -76,6 +79,16 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// Gives up this string's body and shares that of `other`. Copies no units.
   ZR_INLINE ZRStringMutator& operator=(const ZRString& other) noexcept;
+
+  /// Move assignment: exchanges the bodies, without touching them. `other` then holds this string's
+  /// former body.
+  ///
+  /// A template only because no library exports one: it is compiled into the program.
+  template <typename Other, typename = std::enable_if_t<std::is_same_v<Other, ZRStringMutator>>>
+  ZRStringMutator& operator=(Other&& other) noexcept {
+    std::swap(body_, other.body_);
+    return *this;
+  }
 
   /// Replaces the whole text by a range of `source`.
   ZRStringMutator& SetTo(const ZRString& source, ZRLong start, ZRLong length);
@@ -218,6 +231,11 @@ class ZR_API ZRStringMutator : public ZRString {
   /// This object's address as a handle, valid as long as the object lives.
   ZRMutableStringRef__* GetZRMutableStringRef() noexcept;
 };
+
+/// Exchanges the bodies of two strings, without touching them.
+inline void swap(ZRStringMutator& left, ZRStringMutator& right) noexcept {
+  left = std::move(right);
+}
 
 /// `left` followed by `unit`.
 ZR_API ZRStringMutator ZR_CALL operator+(const ZRString& left, unsigned short unit);
