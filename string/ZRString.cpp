@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <new>
 #include <string>
 
@@ -13,13 +14,27 @@
 
 namespace {
 
-/// The length of a terminated text. Throws std::bad_alloc if no string could be that long.
-template <typename Character>
-ZRLong TerminatedLength(const Character* text) {
-  const std::size_t length = std::char_traits<Character>::length(text);
+/// A length that a string may have. Throws std::bad_alloc for a greater one.
+std::int32_t Checked(std::size_t length) {
   if (length > kMaxLength)
     ThrowBadAlloc();
-  return static_cast<ZRLong>(length);
+  return static_cast<std::int32_t>(length);
+}
+
+/// A new body with room for `count` units and a zero unit, and no more unless ICU keeps them inside
+/// the body. Expects to be filled.
+ZRStringImplementation* RoomFor(std::int32_t count) {
+  return count <= kMaxInside ? new ZRStringImplementation()
+                             : new ZRStringImplementation(count, 0, 0);
+}
+
+/// A new body that holds these units. ICU's own constructor, which takes more time, would leave a
+/// long text room to grow.
+ZRStringImplementation* Holding(Units units) {
+  auto* const body = RoomFor(units.count);
+  std::char_traits<char16_t>::copy(body->text.getBuffer(units.count), units.first, units.count);
+  body->text.releaseBuffer(units.count);
+  return body;
 }
 
 /// Replaces the caller's share of a shared body by a private copy. Out of line because most edits
@@ -52,7 +67,7 @@ ZRString::ZRString(const unsigned char* text, ZRLong start, ZRLong length)
 ZRString::ZRString(const char* text, ZRLong start, ZRLong length) {
   if (text)
     text += start;
-  CreateNewImplementation(text, text && length == kZRToEnd ? TerminatedLength(text) : length);
+  CreateNewImplementation(text, text && length == kZRToEnd ? Checked(std::strlen(text)) : length);
 }
 
 ZRString::ZRString(const UniStr255& record) {
@@ -74,17 +89,15 @@ ZRString::ZRString(ZRMutableStringRef__* handle) { CreateNewImplementation(handl
 void ZRString::CreateNewImplementation() { body_ = new ZRStringImplementation(); }
 
 void ZRString::CreateNewImplementation(const unsigned short* text, ZRLong start, ZRLong length) {
-  const Units raw = RawUnits(text, start, length);
-  const std::int32_t count = raw.count < 0 ? TerminatedLength(raw.first) : raw.count;
-  if (count > kMaxLength)
-    ThrowBadAlloc();
-  body_ = new ZRStringImplementation(raw.first, count);
+  const Units raw = MeasuredUnits(text, start, length);
+  Checked(raw.count);
+  body_ = Holding(raw);
 }
 
 void ZRString::CreateNewImplementation(const char* text, ZRLong length) {
   if (!text || length <= 0)
     return CreateNewImplementation();
-  auto* const body = new ZRStringImplementation(length, 0, 0);  // no units, but room for them
+  auto* const body = RoomFor(length);
   DecodeWindows1252(text, length, body->text.getBuffer(length));
   body->text.releaseBuffer(length);
   body_ = body;
@@ -93,10 +106,8 @@ void ZRString::CreateNewImplementation(const char* text, ZRLong length) {
 void ZRString::CreateNewImplementation(const ZRString& source, ZRLong start, ZRLong length) {
   if (start == 0 && (length == kZRToEnd || length == source.GetLength()))
     body_ = source.body_->TakeShare();
-  else if (length == kZRToEnd)
-    body_ = new ZRStringImplementation(TextOf(source.body_), start);
   else
-    body_ = new ZRStringImplementation(TextOf(source.body_), start, length);
+    body_ = Holding(UnitsOf(TextOf(source.body_), start, length));
 }
 
 void ZRString::CreateNewImplementation(ZRStringRef__* handle) {
