@@ -1,0 +1,169 @@
+// What the library answers before ICU, or does instead of it, compared with ICU.
+#include <ZRString/ZRStringMutator.h>
+#include <gtest/gtest.h>
+#include <unicode/normlzr.h>
+#include <unicode/unistr.h>
+
+#include <algorithm>
+#include <memory>
+#include <random>
+
+#include "Text.h"
+
+namespace {
+
+icu::UnicodeString Icu(const Text& text) {
+  return icu::UnicodeString(text.data(), static_cast<std::int32_t>(text.size()));
+}
+
+/// A copy of a text in memory of its size, so that a sanitizer sees reads past the end.
+std::unique_ptr<unsigned short[]> Exact(const Text& text) {
+  std::unique_ptr<unsigned short[]> units(new unsigned short[text.size()]);
+  std::copy(text.begin(), text.end(), units.get());
+  return units;
+}
+
+/// Compares and searches ranges of two texts, with a string and with a raw operand.
+void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
+  const icu::UnicodeString ours = Icu(left), theirs = Icu(right);
+  const ZRString string = Make(left), other = Make(right);
+  const auto exact = Exact(right);
+  const unsigned short* const raw = exact.get();
+  const std::int32_t all = INT32_MAX, rest = std::max(theirs.length() - start, 0);
+  const ZRLong end = string.GetLength() - 1;
+  const auto agree = [](int expected, std::initializer_list<int> results) {
+    return std::count(results.begin(), results.end(), expected) ==
+           static_cast<std::ptrdiff_t>(results.size());
+  };
+  EXPECT_TRUE(agree(
+      ours.compare(start, all, theirs, start, all),
+      {string.Compare(start, -1, other, start, -1), string.Compare(start, -1, raw, start, rest),
+       string.CompareBetween(start, end, other, start, all)}))
+      << "Compare";
+  EXPECT_TRUE(agree(ours.compareCodePointOrder(start, all, theirs, start, all),
+                    {string.CompareCodePointOrder(start, -1, other, start, -1),
+                     string.CompareCodePointOrder(start, -1, raw, start, rest),
+                     string.CompareCodePointOrderBetween(start, end, other, start, all)}))
+      << "CompareCodePointOrder";
+  EXPECT_TRUE(agree(ours < theirs, {string<other, !(string >= other), other> string}));
+  for (const ZRULong options : {0u, 0x8000u, 1u, 0x8001u, 0x10000u})
+    EXPECT_TRUE(agree(ours.caseCompare(start, all, theirs, start, all, options),
+                      {string.ICompare(start, -1, other, start, -1, options),
+                       string.ICompare(start, -1, raw, start, rest, options),
+                       string.ICompareBetween(start, end, other, start, all, options)}))
+        << "ICompare, option " << options;
+  for (const ZRLong count : {1, 2, 5})
+    for (const ZRLong place : {start, theirs.length() - count})
+      if (place >= 0 && place + count <= theirs.length()) {
+        EXPECT_TRUE(agree(ours.indexOf(theirs, place, count, start, all),
+                          {string.Find(other, place, count, start, -1),
+                           string.Find(raw, place, count, start, -1)}))
+            << "Find, pattern at " << place << ", " << count;
+      }
+}
+
+const Text kUnits =
+    u"akKsSiIzZ@[`{\x7F\x80\u00DF\u00E9\u00C9\u0130\u0131\u017F\u0301\u03A3\u03C3"
+    u"\u1E9E\u212A\uFB00\uE000\uFFFF\xD83D\xDE00";
+
+}  // namespace
+
+// A difference at each place of texts of up to three blocks of every size, from an even and an odd
+// unit on. The letters around it are ASCII or not.
+TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
+  std::mt19937 random;
+  for (const char16_t letter : {u'x', u'\u03B1'})
+    for (std::size_t length = 0; length <= 200; length += length < 40 ? 1 : 23)
+      for (std::size_t place = 0; place <= length; ++place) {
+        SCOPED_TRACE(testing::Message() << "unit " << place << " of " << length);
+        Text left(length, letter), right = left;
+        const std::size_t shared = random() % (place + 1);  // may be half of a pair
+        left.insert(shared, 1, kUnits[random() % kUnits.size()]);
+        right.insert(shared, 1, left[shared]);
+        left[place] = kUnits[random() % kUnits.size()];
+        right[place] = kUnits[random() % kUnits.size()];
+        right.resize(right.size() - random() % 2);
+        ExpectIcusAnswers(left, right, static_cast<ZRLong>(random() % 2));
+        ASSERT_FALSE(HasFailure());
+      }
+}
+
+TEST(FastPath, EveryPairOfStrangeLetters) {
+  for (const char16_t first : kUnits)
+    for (const char16_t second : kUnits)
+      for (const Text before : {u"", u"ab", u"abcdefgh\u00E9", u"\xD83D"}) {
+        SCOPED_TRACE(testing::Message() << std::hex << int{first} << " " << int{second});
+        ExpectIcusAnswers(before + first + u"ss", before + second + u"SS", 0);
+      }
+}
+
+TEST(FastPath, EveryCodePointIsNormalizedOrNotAsByIcu) {
+  const struct {
+    int mode;
+    UNormalizationMode icuMode;
+  } rows[] = {{2, UNORM_NFC}, {3, UNORM_NFKC}, {4, UNORM_NFD}, {5, UNORM_NFKD}, {6, UNORM_FCD}};
+  for (const auto& row : rows)
+    for (UChar32 c = 0; c <= 0x10FFFF; ++c) {
+      // A text of one block that ends with the code point, and another after it.
+      const icu::UnicodeString text = icu::UnicodeString(u"\u009F\u009F", 2).append(c).append(u'z');
+      UErrorCode status = U_ZERO_ERROR;
+      const bool normalized = icu::Normalizer::quickCheck(text, row.icuMode, status) == UNORM_YES;
+      ZRStringMutator string(Raw(text.getBuffer()), 0, text.length());
+      ASSERT_EQ(string.Normalize(static_cast<ZRStringNormalizationMode>(row.mode)), !normalized)
+          << "Normalize, mode " << row.mode << ", U+" << std::hex << c;
+    }
+}
+
+TEST(FastPath, FindAndReplaceLeavesIcusTextAndCapacity) {
+  std::mt19937 random;
+  const Text olds[] = {u"a", u"aa", u"ab", u"\xD83D", u"\xDE00", u"\U0001F600"};
+  const Text news[] = {u"", u"a", u"xyz", Text(40, u'y'), u"\xDE00"};
+  for (const std::size_t length : {3, 20, 30, 500, 5000})
+    for (const Text& oldText : olds)
+      for (const Text& newText : news) {
+        Text text;
+        while (text.size() < length)
+          text += olds[random() % std::size(olds)] + (random() % 2 ? u"b" : u"");
+        icu::UnicodeString expected = Icu(text);
+        ZRStringMutator string;
+        string.SetTo(Raw(text), expected.length());
+        const auto start = static_cast<ZRLong>(random() % 3);
+        string.FindAndReplace(start, -1, Make(oldText), 0, -1, Make(newText), 0, -1);
+        expected.findAndReplace(start, INT32_MAX, Icu(oldText), 0, INT32_MAX, Icu(newText), 0,
+                                INT32_MAX);
+        EXPECT_TRUE(Icu(TextOf(string)) == expected &&
+                    string.GetCapacity() == expected.getCapacity())
+            << length << " units, " << testing::PrintToString(oldText) << " by "
+            << testing::PrintToString(newText);
+      }
+}
+
+TEST(FastPath, NewTextsHaveTheSmallestStorage) {
+  for (int length = 0; length < 100; ++length) {
+    const Text text(length, u'x');
+    const std::string bytes(length, 'x');
+    const ZRString longer = Make(text + u"y");
+    const std::int32_t smallest = icu::UnicodeString(length, 0, 0).getCapacity();
+    for (const ZRStringMutator& made :
+         {ZRStringMutator(Raw(text), 0, length), ZRStringMutator(Raw(text), 0, -1),
+          ZRStringMutator(longer, 0, length), ZRStringMutator(bytes.data(), 0, length)}) {
+      EXPECT_EQ(made.GetCapacity(), smallest) << length;
+      EXPECT_EQ(TextOf(made), text);
+    }
+  }
+}
+
+TEST(FastPath, MovesAndSwapsExchangeBodies) {
+  ZRStringMutator first(Make(u"a")), second(Make(u"b")), shared(first);
+  const std::int32_t* const bodies[] = {BodyOf(first), BodyOf(second)};
+  EXPECT_EQ(&(first = std::move(second)), &first);
+  EXPECT_EQ(BodyOf(first), bodies[1]);
+  EXPECT_EQ(BodyOf(second), bodies[0]);
+  swap(first, second);
+  EXPECT_EQ(BodyOf(first), bodies[0]);
+  first = std::move(shared);  // one body
+  EXPECT_EQ(Holders(first), 2);
+  const ZRStringMutator constant(first);
+  second = std::move(constant);  // a copy
+  EXPECT_EQ(Holders(constant), 4);
+}
