@@ -30,13 +30,22 @@ std::u16string Text(std::size_t length, std::u16string_view end) {
   return text.replace(length - end.size(), std::u16string::npos, end);
 }
 
-/// The words in a random order that is the same in every run; empty without the list.
-std::vector<std::u16string> Words() {
-  std::vector<std::u16string> words;
+/// The words in a random order that is the same in every run; empty without the list. They are in
+/// one piece of memory: strings that are freed before the peers make theirs would leave holes, and
+/// the first peer's words would fill them in random order, far from each other.
+std::vector<std::u16string_view> Words() {
+  static std::u16string text;
+  std::vector<std::u16string_view> words;
+  std::vector<std::size_t> ends;
   std::ifstream file(kWordList);
-  for (std::string line; std::getline(file, line);) {
+  for (std::string line; std::getline(file, line); ends.push_back(text.size())) {
     const icu::UnicodeString word = icu::UnicodeString::fromUTF8(line);
-    words.emplace_back(word.getBuffer(), word.length());
+    text.append(word.getBuffer(), static_cast<std::size_t>(word.length()));
+  }
+  std::size_t start = 0;
+  for (const std::size_t end : ends) {
+    words.push_back(std::u16string_view(text).substr(start, end - start));
+    start = end;
   }
   std::mt19937 random;
   for (std::size_t i = words.size(); i > 1; --i)
@@ -96,7 +105,7 @@ void AddUtf8(const char* rowFrom, const char* rowTo, const std::u16string& text)
 }
 
 template <typename Peer>
-void AddPeer(const std::vector<std::u16string>& texts) {
+void AddPeer(const std::vector<std::u16string_view>& texts) {
   using String = typename Peer::String;
   const std::u16string shortText = Text(20, u"quay");
   AddCopy<typename Peer::Constant, Peer>("copy and destroy, 20 units", shortText);
@@ -144,7 +153,7 @@ void AddPeer(const std::vector<std::u16string>& texts) {
   if (texts.empty())
     return;
   static std::vector<String> words;
-  for (const std::u16string& text : texts)
+  for (const std::u16string_view text : texts)
     words.push_back(Peer::Make(text));
   AddSort<Peer>("sort 100,000 words by units", words, std::less<String>());
   if constexpr (Peer::kUnicode)
@@ -165,7 +174,7 @@ int main(int argc, char** argv) {
 
   UErrorCode status = U_ZERO_ERROR;
   icu::Locale::setDefault(icu::Locale(kLocale), status);
-  const std::vector<std::u16string> words = Words();
+  const std::vector<std::u16string_view> words = Words();
   if (words.empty())
     std::fprintf(stderr, "%s not found or too short: no sorting, no records\n", kWordList);
   std::string versions = std::string("GCC ") + __VERSION__ + ", ICU " U_ICU_VERSION;

@@ -32,8 +32,9 @@
 
 constexpr const char* kLocale = "fr_FR";
 
-/// A binary stream in memory.
-class MemoryStream : public Velmar::IStream {
+/// A binary stream in memory. Its room doubles and is not filled, like that of QDataStream's
+/// buffer.
+class MemoryStream final : public Velmar::IStream {
  public:
   void Write(const ZRLong* value) override { Put(value); }
   void Write(const ZRULong* value) override { Put(value); }
@@ -41,25 +42,41 @@ class MemoryStream : public Velmar::IStream {
   void Read(ZRLong* value) override { Get(value); }
   void Read(ZRULong* value) override { Get(value); }
   void Read(unsigned short* value) override { Get(value); }
-  void Rewind() { place_ = 0; }
+  void Rewind() { next_ = bytes_.get(); }
 
  private:
+  struct Free {
+    void operator()(char* bytes) const { std::free(bytes); }
+  };
+
   template <typename Value>
   void Put(const Value* value) {
-    if (bytes_.size() - place_ < sizeof *value)
-      bytes_.resize(2 * bytes_.size() + 64);
-    std::memcpy(bytes_.data() + place_, value, sizeof *value);
-    place_ += sizeof *value;
+    if (static_cast<std::size_t>(end_ - next_) < sizeof *value)
+      Grow();
+    std::memcpy(next_, value, sizeof *value);
+    next_ += sizeof *value;
   }
 
   template <typename Value>
   void Get(Value* value) {
-    std::memcpy(value, bytes_.data() + place_, sizeof *value);
-    place_ += sizeof *value;
+    std::memcpy(value, next_, sizeof *value);
+    next_ += sizeof *value;
   }
 
-  std::vector<char> bytes_;
-  std::size_t place_ = 0;
+  void Grow() {
+    const auto size = static_cast<std::size_t>(next_ - bytes_.get());
+    const std::size_t room = 2 * size + 64;
+    auto* const grown = static_cast<char*>(std::realloc(bytes_.release(), room));
+    if (!grown)
+      std::abort();
+    bytes_.reset(grown);
+    next_ = grown + size;
+    end_ = grown + room;
+  }
+
+  std::unique_ptr<char, Free> bytes_;
+  char* next_ = nullptr;
+  char* end_ = nullptr;
 };
 
 struct ZRPeer {
