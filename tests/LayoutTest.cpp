@@ -7,12 +7,16 @@
 
 #include <cstddef>
 
+#include "Recorder.h"
 #include "Text.h"
 
 static_assert(sizeof(ZRString) == 2 * sizeof(void*));
 static_assert(sizeof(ZRStringMutator) == sizeof(ZRString));
 static_assert(sizeof(ZRLong) == 4 && sizeof(ZRULong) == 4);
+static_assert(sizeof(ZRStringPtrArray) == sizeof(std::vector<ZRString*>));
 static_assert(offsetof(UniStr255, units) == 8);
+static_assert(kZRNormalizationNFC == 2 && kZRNormalizationNFKC == 3 && kZRNormalizationNFD == 4);
+static_assert(kZRNormalizationNFKD == 5 && kZRNormalizationFCD == 6);
 
 /// The slot of a virtual member function. In the C++ ABI of GCC and Clang, a pointer to such a
 /// member holds the offset in the table, plus 1 except on ARM.
@@ -23,6 +27,12 @@ static std::ptrdiff_t Slot(Pointer member) {
   return value / static_cast<std::ptrdiff_t>(sizeof(void*));
 }
 
+/// A program's class, whose virtual members follow those of the base.
+template <typename Base>
+struct Next : Base {
+  virtual void Last() {}
+};
+
 TEST(Layout, VirtualOperationsKeepTheirSlots) {
   // The destructor has the first two slots.
   EXPECT_EQ(Slot(&ZRString::GetBuffer), 2);
@@ -31,6 +41,17 @@ TEST(Layout, VirtualOperationsKeepTheirSlots) {
   EXPECT_EQ(Slot<unsigned short* (ZRStringMutator::*)(ZRLong)>(&ZRStringMutator::GetBuffer), 5);
   EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Write), 2);
   EXPECT_EQ(Slot(&Velmar::ITransfer<unsigned short>::Read), 3);
+  EXPECT_EQ(Slot(&Next<ZRStringMutator>::Last), 6);
+  EXPECT_EQ(Slot(&Next<Velmar::ITransfer<unsigned short>>::Last), 4);
+}
+
+TEST(Layout, AHostsStreamKeepsItsParts) {
+  Recorder recorder;
+  Velmar::IStream* const stream = &recorder;
+  void** const parts = reinterpret_cast<void**>(stream);
+  EXPECT_EQ(static_cast<Velmar::ITransfer<ZRLong>*>(stream), static_cast<void*>(parts));
+  EXPECT_EQ(static_cast<Velmar::ITransfer<ZRULong>*>(stream), static_cast<void*>(parts + 1));
+  EXPECT_EQ(static_cast<Velmar::ITransfer<unsigned short>*>(stream), static_cast<void*>(parts + 2));
 }
 
 TEST(Layout, HandlesAreAddresses) {
