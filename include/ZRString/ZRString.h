@@ -19,7 +19,8 @@ class ZRStringMutator;
 /// The number of strings that hold a body: the first part of every body, and all of it that
 /// programs see.
 ///
-/// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it.
+/// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it. Nothing checks
+/// that it stays below 2^31.
 class ZRStringHolderCount {
  public:
   bool IsShared() const noexcept { return count_ > 1; }  ///< Whether there is more than one holder.
@@ -59,7 +60,8 @@ class ZRStringHolderCount {
 /// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings made from a
 /// handle and strings made from the whole of another string share the body of their source, which
 /// takes an addition and no allocation. The last holder destroys the body. Only ZRStringMutator
-/// changes text, and it first gets a body of its own.
+/// changes text, and it first gets a body of its own. At most 2147483647 strings may share a body;
+/// one more is undefined behaviour.
 ///
 /// **Units and ranges.** Starts, lengths and indices count UTF-16 code units. A range is a start
 /// and a length, clamped to the text it refers to: a start below 0 counts as 0, a start past the
