@@ -3,6 +3,7 @@
 #include <ZRString/ZRStringPtrArray.h>
 
 #include <climits>
+#include <cstdint>
 
 // A program for debuggers, with one string in each state that they must show. The test breaks at
 // Stop() and prints the locals of its caller. What it expects is the comment `//=` of each. There,
@@ -51,14 +52,16 @@ int main() {
   ZRStringPtrArrayRef__* const nullArrayHandle = nullptr;  //= (ZRStringPtrArrayRef__ * const) 0x0
   auto* const arrayHandle = array.GetZRStringPtrArrayRef();
 
-  // Memory that holds no string: before a constructor has run and after a destructor has.
+  // Memory that holds no string: before a constructor has run, after a destructor has, and garbage.
   static const void* const nothing[4] = {};
   static const void* const objects[2][2] = {{nullptr, nullptr}, {nullptr, nothing}};
   const auto* const unborn = reinterpret_cast<const ZRString*>(objects[0]);
   const auto* const dead = reinterpret_cast<const ZRString*>(objects[1]);
+  static const std::intptr_t garbage[] = {0, -1};
+  const auto* const damaged = reinterpret_cast<const ZRString*>(garbage);
 
   Stop(shared);
   openText.ReleaseBuffer(4);
   (void)handle, (void)mutableHandle, (void)nullHandle, (void)arrayHandle, (void)nullArrayHandle;
-  (void)unborn, (void)dead;
+  (void)unborn, (void)dead, (void)damaged;
 }

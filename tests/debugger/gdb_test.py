@@ -23,6 +23,8 @@ for line in (HERE / "Samples.cpp").read_text(encoding="utf-8").splitlines():
 COMMANDS = {"print " + name: display for name, display in SAMPLES.items()} | {
     "print *unborn": "<no string: nothing readable as its body at 0x0>",
     "print *dead": "<no string: nothing readable as its body at ADDRESS>",
+    "print *damaged": "<no string: nothing readable as its body at ADDRESS>",
+    "print (ZRStringRef__*)-1": "ADDRESS <no string: unreadable>",
     "print arrayHandle": "ADDRESS " + SAMPLES["array"].replace("ENTRY", "ADDRESS "),
     "backtrace 1": SAMPLES["shared"],
     "with print elements 1 -- print surrogateText": '""... (length 6, holders 1)',

@@ -41,6 +41,8 @@ def pointer_size():
 
 
 def read(address, size):
+    if address + size > 1 << 8 * pointer_size():  # for GDB an OverflowError
+        raise gdb.MemoryError("Cannot access memory at address 0x%x" % address)
     return gdb.selected_inferior().read_memory(address, size).tobytes()
 
 
