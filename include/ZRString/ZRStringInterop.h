@@ -1,6 +1,12 @@
 #ifndef ZRSTRING_ZRSTRINGINTEROP_H
 #define ZRSTRING_ZRSTRINGINTEROP_H
 
+#if __cplusplus < 201703L && (!defined(_MSVC_LANG) || _MSVC_LANG < 201703L)
+#error "<ZRString/ZRStringInterop.h> needs C++17 or later, for example the option -std=c++17"
+#elif !defined(__cpp_exceptions) && !defined(_CPPUNWIND)
+#error "<ZRString/ZRStringInterop.h> needs exceptions: leave out the option -fno-exceptions"
+#else
+
 #include <ZRString/ZRStringMutator.h>
 
 #include <climits>
@@ -37,7 +43,8 @@
 /// state, reads as empty.
 ///
 /// **Errors.** A text of 2^31 or more units or bytes throws `std::length_error`. If memory runs
-/// out, ICU's included, the functions throw `std::bad_alloc`.
+/// out, ICU's included, the functions throw `std::bad_alloc`. The header does not compile without
+/// exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -388,5 +395,7 @@ template <>
 struct std::formatter<ZRStringMutator> : std::formatter<ZRString> {};
 #endif
 /// @endcond
+
+#endif
 
 #endif
