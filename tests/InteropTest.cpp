@@ -123,8 +123,8 @@ TEST(Interop, KeysOfContainers) {
 }
 
 TEST(Interop, Printing) {
-  EXPECT_EQ(testing::PrintToString(u"\U0001F600 d\u00E9j\u00E0 vu\"\\a\0\n\x1F\x7F"_zr),
-            "\"\U0001F600 d\u00E9j\u00E0 vu\\\"\\\\a\\u0000\\u000A\\u001F\\u007F\"");
+  EXPECT_EQ(testing::PrintToString(u"\U0001F600 d\u00E9j\u00E0 vu\"\\a\0\n\x1F\x7F\x9F\xA0"_zr),
+            "\"\U0001F600 d\u00E9j\u00E0 vu\\\"\\\\a\\u0000\\u000A\\u001F\\u007F\\u009F\u00A0\"");
   EXPECT_EQ(testing::PrintToString(u"\xDC00\xD800\xD800\xDC00\uFFFD"_zr),
             "\"\\uDC00\\uD800\U00010000\uFFFD\"");
   EXPECT_EQ(testing::PrintToString(u""_zr), "\"\"");

@@ -349,7 +349,8 @@ inline void PrintTo(const ZRString& string, std::ostream* stream) {
   std::u16string shown;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool pair = IsLead(text[i]) && i + 1 < text.size() && IsTrail(text[i + 1]);
-    if (!pair && (text[i] < 0x20 || text[i] == 0x7F || IsLead(text[i]) || IsTrail(text[i]))) {
+    const bool control = text[i] < 0x20 || (text[i] >= 0x7F && text[i] < 0xA0);
+    if (!pair && (control || IsLead(text[i]) || IsTrail(text[i]))) {
       char number[8];
       std::snprintf(number, sizeof number, "\\u%04X", static_cast<unsigned>(text[i]));
       shown.append(number, number + 6);
