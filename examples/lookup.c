@@ -8,6 +8,11 @@
 #include <stdlib.h>
 #include <string.h>
 
+/* In bytes. A string holds some 2^31 units. */
+#ifndef LONGEST_LINE
+#define LONGEST_LINE 2000000000
+#endif
+
 static void Fail(const char* what, const char* subject) {
   fprintf(stderr, "lookup: %s%s\n", what, subject);
   exit(2);
@@ -59,8 +64,10 @@ static unsigned char* ReadFile(const char* path, size_t* size) {
   return bytes;
 }
 
-/* Appends a string for each line that is not empty. */
-static void Decode(const unsigned char* bytes, size_t size, ZRStringPtrArrayRef__* words) {
+/* Appends a string for each line of a file that is not empty. */
+static void Decode(const char* path, ZRStringPtrArrayRef__* words) {
+  size_t size = 0;
+  unsigned char* const bytes = ReadFile(path, &size);
   size_t start = 0;
   while (start < size) {
     const unsigned char* const newline = memchr(bytes + start, '\n', size - start);
@@ -68,6 +75,8 @@ static void Decode(const unsigned char* bytes, size_t size, ZRStringPtrArrayRef_
     size_t length = limit - start;
     if (length > 0 && bytes[limit - 1] == '\r')
       --length;
+    if (length > LONGEST_LINE)
+      Fail("a line is too long in ", path);
     if (length > 0) {
       ZRStringRef__* word = NULL;
       Check(ZRStringCreateFromLocalString(bytes + start, 0, (ZRLong)length, &word));
@@ -75,6 +84,7 @@ static void Decode(const unsigned char* bytes, size_t size, ZRStringPtrArrayRef_
     }
     start = limit + 1;
   }
+  free(bytes);
 }
 
 static ZRStringRef__* EntryAt(ZRStringPtrArrayRef__* words, ZRULong index) {
@@ -131,14 +141,11 @@ static ZRULong LowerBound(ZRStringPtrArrayRef__* words, ZRStringRef__* word) {
 int main(int argc, char** argv) {
   if (argc != 3)
     Fail("usage: lookup FILE WORD (both in windows-1252)", "");
-  size_t size = 0;
-  unsigned char* const bytes = ReadFile(argv[1], &size);
   ZRStringPtrArrayRef__* words = NULL;
   ZRStringRef__* word = NULL;
   Check(ZRStringPtrArrayCreate(&words));
   Check(ZRStringCreateFromLocalString((const unsigned char*)argv[2], 0, kZRToEnd, &word));
-  Decode(bytes, size, words);
-  free(bytes);
+  Decode(argv[1], words);
   const ZRULong decoded = SizeOf(words);
   Sort(words);
 

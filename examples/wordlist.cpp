@@ -27,6 +27,11 @@
 #include "LittleEndianStream.h"
 #include "Progress.h"
 
+// In bytes. A string holds some 2^31 units.
+#ifndef LONGEST_LINE
+#define LONGEST_LINE 2000000000
+#endif
+
 namespace {
 
 constexpr ZRLong kShown = 5;
@@ -155,16 +160,20 @@ std::string ReadFile(const std::string& name) {
   return bytes.str();
 }
 
-/// Adds an entry for each line that is not empty. Lines end in LF or CR LF; the last one may end
-/// with the file.
-ZRULong Decode(const std::string& bytes, WordList& words) {
+/// Adds an entry for each line of a file that is not empty. Lines end in LF or CR LF; the last one
+/// may end with the file.
+ZRULong Decode(const std::string& name, WordList& words) {
+  const std::string bytes = ReadFile(name);
   ZRULong lines = 0;
   for (std::size_t start = 0; start < bytes.size(); ++lines) {
     const std::size_t limit = std::min(bytes.find('\n', start), bytes.size());
     const bool hasReturn = limit > start && bytes[limit - 1] == '\r';
-    const auto length = static_cast<ZRLong>(limit - start - hasReturn);
+    const std::size_t length = limit - start - hasReturn;
+    if (length > LONGEST_LINE)
+      throw std::runtime_error("a line is too long in " + name);
     if (length > 0)
-      words.Add(std::make_unique<ZRStringMutator>(bytes.data() + start, 0, length));
+      words.Add(
+          std::make_unique<ZRStringMutator>(bytes.data() + start, 0, static_cast<ZRLong>(length)));
     start = limit + 1;
   }
   return lines;
@@ -282,8 +291,7 @@ void Run(const Options& options) {
     Load(options.load, words);
     report.Stage("loaded", words.Size());
   } else {
-    const std::string bytes = ReadFile(options.source);
-    report.Stage("read", Decode(bytes, words));
+    report.Stage("read", Decode(options.source, words));
     Edit(words, options);
     report.Stage("edited", words.Size());
     Sort(words);
