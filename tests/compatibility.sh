@@ -1,9 +1,7 @@
 #!/usr/bin/env bash
-# Checks the promises to programs that were compiled for 1.0.0, which is built from its commit: the
-# types of its functions, its classes and virtual tables are unchanged (check-exports.sh compares
-# the names), and its tests, compiled with its headers, pass with today's library. Also has the
-# loader refuse a program of today with the library of 1.0.0. Takes a minute on Debian 12, where
-# 1.0.0 builds. Installs the Debian packages that are missing.
+# Checks what programs that were compiled for 1.0.0 rely on. Builds 1.0.0 from its commit, compares
+# the types of both libraries (check-exports.sh compares their names), and runs the tests of 1.0.0,
+# compiled with its headers, with today's library. Takes a minute on Debian 12, where 1.0.0 builds.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.sh"
@@ -21,17 +19,12 @@ mkdir -p "$work/source"
 git -C "$top" archive 97fe69e | tar -C "$work/source" -x || die "this checkout lacks that commit"
 say "building 1.0.0 and today's library"
 build "$work/source" "$old" zrstring-tests
-build "$top" "$new" wordlist
+build "$top" "$new" ZRString
 
-say "comparing types"
-# The body is the library's own. ZRStringHolderCount is its first part.
+say "comparing types"  # without the body and its first part, which are the library's own
 printf '[suppress_type]\nname_regexp = %s\ndrop = yes\n' \
   'ZRStringImplementation|ZRStringHolderCount' > "$work/suppressions"
 abidiff --no-added-syms --suppressions "$work/suppressions" {"$old","$new"}/libZRString.so
 
 say "running the tests of 1.0.0 with today's library"
 LD_LIBRARY_PATH=$new "$old/tests/zrstring-tests" --gtest_brief=1
-
-say "starting a program of today with the library of 1.0.0"
-! LD_LIBRARY_PATH=$old "$new/examples/wordlist" --help 2> "$work/refusal" || die "it runs"
-grep "version \`ZRSTRING_1.1' not found" "$work/refusal"
