@@ -9,6 +9,10 @@ import re
 
 FIRST_PARAMETER, INDEX_OUTSIDE = 4, 12  # kZRStatusFirstParameter, kZRStatusIndexOutside
 
+# What a clause of "@return" may say of a parameter, by what the parameter is; and of status 12.
+CAUSES = {"pointer": ["null"], "integer": ["negative", "below -1", "below 1"]}
+OUTSIDE_CAUSES = ["no memory", "the array is empty", "index is outside the array"]
+
 
 @dataclasses.dataclass
 class Test:
@@ -31,6 +35,10 @@ def _tests(name, parameters, comment):
     """The tests that "@return 0; 4 string is null; ..." lists. "5 string is null (not 6)" is a
     status that does not follow from the position; the member has the one that does."""
     names = [parameter for _, parameter in parameters]
+    causes = {
+        parameter: CAUSES["pointer" if kind.endswith("*") else "integer"]
+        for kind, parameter in parameters
+    }
     success, *clauses = comment.partition("@return ")[2].rstrip(".").split("; ")
     if success != "0":
         raise ValueError(f"{name}: the first status is not 0")
@@ -39,8 +47,13 @@ def _tests(name, parameters, comment):
         status, _, cause = clause.partition(" ")
         tested = re.fullmatch(r"(\w+) is ([\w -]+)(?: \(not (\d+)\))?", cause)
         if status == str(INDEX_OUTSIDE):
+            if cause not in OUTSIDE_CAUSES:
+                raise ValueError(f"{name}: '{clause}' is not one of {', '.join(OUTSIDE_CAUSES)}")
             tests[INDEX_OUTSIDE] = Test(None, cause, INDEX_OUTSIDE)
         elif status.isdecimal() and tested and tested[1] in names:
+            if tested[2] not in causes[tested[1]]:
+                allowed = " or ".join(causes[tested[1]])
+                raise ValueError(f"{name}: '{clause}': {tested[1]} can be {allowed}")
             by_position = FIRST_PARAMETER + names.index(tested[1])
             if by_position != int(tested[3] or status) or tested[3] == status:
                 raise ValueError(f"{name}: the position of {tested[1]} gives {by_position}")

@@ -335,8 +335,12 @@ def main():
     check = sys.argv[1:] == ["--check"]
     if sys.argv[1:] and not check:
         sys.exit(__doc__)
+    try:
+        functions = handle_header.functions(HANDLES)
+    except ValueError as error:
+        sys.exit(f"{HANDLES.name}: {error}")
     stale = []
-    for path, text in written(handle_header.functions(HANDLES)).items():
+    for path, text in written(functions).items():
         if not path.exists() or path.read_text(encoding="utf-8") != text:
             stale.append(str(path.relative_to(ROOT)))
             if not check:
