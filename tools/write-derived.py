@@ -18,6 +18,7 @@ import textwrap
 
 import handle_header
 from handle_header import FIRST_PARAMETER, INDEX_OUTSIDE
+from line_wrapping import WIDTH, wrapped
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 HANDLES = ROOT / "include/ZRString/ZRStringHandles.h"
@@ -27,7 +28,6 @@ ROWS = ROOT / "tests/HandleRows.inc"
 STATUSES = ROOT / "docs/statuses.md"
 RANGES = ROOT / "docs/ranges.md"
 PYTHON = ROOT / "examples/python/zrstring.py"
-WIDTH = 100
 
 
 @dataclasses.dataclass
@@ -142,29 +142,6 @@ def member_name(interface, function):
     return "ZRSPtrArray" + function.name.removeprefix("ZRStringPtrArray")
 
 
-def lines_of(items, width):
-    """The items, with a space between two, on lines of at most `width` columns."""
-    lines = items[:1]
-    for item in items[1:]:
-        if len(f"{lines[-1]} {item}") <= width:
-            lines[-1] += f" {item}"
-        else:
-            lines.append(item)
-    return lines
-
-
-def listed(head, items, tail, indent, worth):
-    """head + items + tail, broken as clang-format does it: aligned with the first item, or starting
-    on the next line if nothing else fits or if that saves `worth` line breaks."""
-    items = [f"{item}," for item in items[:-1]] + [items[-1] + tail]
-    aligned = lines_of(items, WIDTH - len(head))
-    below = lines_of(items, WIDTH - indent)
-    fits = max(map(len, aligned)) <= WIDTH - len(head)
-    if fits and len(aligned) - 1 - len(below) < worth:
-        return head + ("\n" + " " * len(head)).join(aligned)
-    return "\n".join([head] + [" " * indent + line for line in below])
-
-
 def declared_parameters(function):
     return [f"{kind} {name}" for kind, name in function.parameters]
 
@@ -173,7 +150,7 @@ def declaration(interface, function):
     head = f"  static ZRLong {member_name(interface, function)}("
     return (
         f"  /// Calls ::{function.name}().{departure_note(function)}\n"
-        f"{listed(head, declared_parameters(function), ');', 6, 3)}\n"
+        f"{wrapped(head, declared_parameters(function), ');', ' ' * 6)}\n"
     )
 
 
@@ -193,15 +170,15 @@ def departure_note(function):
 
 def definition(interface, function):
     head = f"ZRLong {interface.name}::{member_name(interface, function)}("
-    signature = listed(head, declared_parameters(function), ") {", 4, 3)
+    signature = wrapped(head, declared_parameters(function), ") {", " " * 4)
     names = [name for _, name in function.parameters]
     differing = departures(function)
     if not differing:
-        body = listed(f"  return ::{function.name}(", names, ");", 6, 1) + "\n"
+        body = wrapped(f"  return ::{function.name}(", names, ");", " " * 6) + "\n"
     else:
         ((status, test),) = differing
         body = (
-            listed(f"  const ZRLong status = ::{function.name}(", names, ");", 6, 1) + "\n"
+            wrapped(f"  const ZRLong status = ::{function.name}(", names, ");", " " * 6) + "\n"
             f"  return status == {status} ? {test.member_status} : status;\n"
         )
     return f"\n{signature}\n{body}}}\n"
@@ -223,13 +200,6 @@ def kinds(function):
 def row(interface, function):
     member = f"{interface.name}::{member_name(interface, function)}"
     return f"ZR_ROW({', '.join([function.name, member, *kinds(function)])})\n"
-
-
-def assignment(name):
-    head, parameter = f"{name}& {name}::operator=(", f"const {name}&) ="
-    if len(head + parameter) <= WIDTH:
-        return f"{head}{parameter}\n    default;"
-    return f"{head}\n    {parameter} default;"
 
 
 def table_row(cells):
@@ -317,7 +287,7 @@ def written(functions):
         header += f"  /// Copies nothing.\n  {name}& operator=(const {name}&);\n\n"
         header += "".join(declaration(interface, function) for function in members)
         header += f"{interface.more_declarations}}};\n"
-        source += f"\n{assignment(name)}\n"
+        source += f"\n{name}& {name}::operator=(\n    const {name}&) = default;\n"
         source += "".join(definition(interface, function) for function in members)
         source += interface.more_definitions
         rows += "".join(row(interface, function) for function in members)

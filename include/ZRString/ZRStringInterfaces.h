@@ -18,50 +18,47 @@ class ZR_API ZRAccessorStringDKInterfaceImpl {
 
   /// Calls ::ZRStringCreateFromUniChars().
   static ZRLong ZRStringCreateFromUniChars(const unsigned short* chars, ZRLong start, ZRLong length,
-                                           ZRStringRef__** out);
+      ZRStringRef__** out);
   /// Calls ::ZRStringCreateFromLocalString().
   static ZRLong ZRStringCreateFromLocalString(const unsigned char* text, ZRLong start,
-                                              ZRLong length, ZRStringRef__** out);
+      ZRLong length, ZRStringRef__** out);
   /// Calls ::ZRStringCreateFromCString().
   static ZRLong ZRStringCreateFromCString(const char* text, ZRLong start, ZRLong length,
-                                          ZRStringRef__** out);
+      ZRStringRef__** out);
   /// Calls ::ZRStringCreateCopy().
   static ZRLong ZRStringCreateCopy(ZRStringRef__* source, ZRStringRef__** out);
   /// Calls ::ZRStringCreateCopyRange().
   static ZRLong ZRStringCreateCopyRange(ZRStringRef__* source, ZRLong start, ZRLong length,
-                                        ZRStringRef__** out);
+      ZRStringRef__** out);
   /// Calls ::ZRStringDestroy().
   static ZRLong ZRStringDestroy(ZRStringRef__* string);
   /// Calls ::ZRStringCompare().
   static ZRLong ZRStringCompare(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength,
-                                ZRLong* result);
+      ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength, ZRLong* result);
   /// Calls ::ZRStringCompareCodePointOrder().
   static ZRLong ZRStringCompareCodePointOrder(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                              ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength,
-                                              ZRLong* result);
+      ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength, ZRLong* result);
   /// Calls ::ZRStringICompare().
   static ZRLong ZRStringICompare(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                 ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength,
-                                 ZRULong options, ZRLong* result);
+      ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength, ZRULong options, ZRLong* result);
   /// Calls ::ZRStringFind().
   static ZRLong ZRStringFind(ZRStringRef__* string, ZRLong start, ZRLong length,
-                             ZRStringRef__* pattern, ZRLong* index);
+      ZRStringRef__* pattern, ZRLong* index);
   /// Calls ::ZRStringFindUniChars().
   static ZRLong ZRStringFindUniChars(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                     unsigned short* pattern, ZRLong patternLength, ZRLong* index);
+      unsigned short* pattern, ZRLong patternLength, ZRLong* index);
   /// Calls ::ZRStringRFind().
   static ZRLong ZRStringRFind(ZRStringRef__* string, ZRLong start, ZRLong length,
-                              ZRStringRef__* pattern, ZRLong* index);
+      ZRStringRef__* pattern, ZRLong* index);
   /// Calls ::ZRStringRFindUniChars().
   static ZRLong ZRStringRFindUniChars(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                      unsigned short* pattern, ZRLong patternLength, ZRLong* index);
+      unsigned short* pattern, ZRLong patternLength, ZRLong* index);
   /// Calls ::ZRStringGetUniCharsAt().
   static ZRLong ZRStringGetUniCharsAt(ZRStringRef__* string, ZRLong index, ZRLong count,
-                                      unsigned short* units);
+      unsigned short* units);
   /// Calls ::ZRStringExtractIntoUniChars().
   static ZRLong ZRStringExtractIntoUniChars(ZRStringRef__* string, ZRLong start, ZRLong length,
-                                            unsigned short* dst, ZRLong dstStart);
+      unsigned short* dst, ZRLong dstStart);
   /// Calls ::ZRStringGetLength().
   static ZRLong ZRStringGetLength(ZRStringRef__* string, ZRLong* length);
   /// Calls ::ZRStringIsEmpty().
@@ -82,62 +79,58 @@ class ZR_API ZRMutableStringDKInterfaceImpl {
   static ZRLong ZRMutableStringCreateEmpty(ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringCreateFromUniChars().
   static ZRLong ZRMutableStringCreateFromUniChars(const unsigned short* chars, ZRLong start,
-                                                  ZRLong length, ZRMutableStringRef__** out);
+      ZRLong length, ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringCreateCopy().
   static ZRLong ZRMutableStringCreateCopy(ZRStringRef__* source, ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringCreateCopyRange().
   static ZRLong ZRMutableStringCreateCopyRange(ZRStringRef__* source, ZRLong start, ZRLong length,
-                                               ZRMutableStringRef__** out);
+      ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringCreateFromLocalString().
   static ZRLong ZRMutableStringCreateFromLocalString(const unsigned char* text, ZRLong start,
-                                                     ZRLong length, ZRMutableStringRef__** out);
+      ZRLong length, ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringCreateFromCString().
   static ZRLong ZRMutableStringCreateFromCString(const char* text, ZRLong start, ZRLong length,
-                                                 ZRMutableStringRef__** out);
+      ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringDestroy().
   static ZRLong ZRMutableStringDestroy(ZRMutableStringRef__* string);
   /// Calls ::ZRMutableStringSetUniCharAt().
   static ZRLong ZRMutableStringSetUniCharAt(ZRMutableStringRef__* string, ZRLong index,
-                                            unsigned short unit);
+      unsigned short unit);
   /// Calls ::ZRMutableStringSetToZRString().
   static ZRLong ZRMutableStringSetToZRString(ZRMutableStringRef__* string, ZRStringRef__* src,
-                                             ZRLong srcStart, ZRLong srcLength);
+      ZRLong srcStart, ZRLong srcLength);
   /// Calls ::ZRMutableStringAppend().
   static ZRLong ZRMutableStringAppend(ZRMutableStringRef__* string, ZRStringRef__* src);
   /// Calls ::ZRMutableStringAppendUniChars().
   static ZRLong ZRMutableStringAppendUniChars(ZRMutableStringRef__* string,
-                                              const unsigned short* chars, ZRLong srcStart,
-                                              ZRLong srcLength);
+      const unsigned short* chars, ZRLong srcStart, ZRLong srcLength);
   /// Calls ::ZRMutableStringInsert().
   static ZRLong ZRMutableStringInsert(ZRMutableStringRef__* string, ZRLong position,
-                                      ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength);
+      ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength);
   /// Calls ::ZRMutableStringInsertUniChars().
   static ZRLong ZRMutableStringInsertUniChars(ZRMutableStringRef__* string, ZRLong position,
-                                              const unsigned short* chars, ZRLong srcStart,
-                                              ZRLong srcLength);
+      const unsigned short* chars, ZRLong srcStart, ZRLong srcLength);
   /// Calls ::ZRMutableStringReplaceBetween().
   static ZRLong ZRMutableStringReplaceBetween(ZRMutableStringRef__* string, ZRLong start,
-                                              ZRLong length, ZRStringRef__* replacement);
+      ZRLong length, ZRStringRef__* replacement);
   /// Calls ::ZRMutableStringReplaceWithUniChars().
   static ZRLong ZRMutableStringReplaceWithUniChars(ZRMutableStringRef__* string, ZRLong start,
-                                                   ZRLong length, const unsigned short* chars,
-                                                   ZRLong srcStart, ZRLong srcLength);
+      ZRLong length, const unsigned short* chars, ZRLong srcStart, ZRLong srcLength);
   /// Calls ::ZRMutableStringFindAndReplace().
   static ZRLong ZRMutableStringFindAndReplace(ZRMutableStringRef__* string, ZRLong start,
-                                              ZRLong length, ZRStringRef__* find,
-                                              ZRStringRef__* replacement);
+      ZRLong length, ZRStringRef__* find, ZRStringRef__* replacement);
   /// Calls ::ZRMutableStringRemoveBetween().
   static ZRLong ZRMutableStringRemoveBetween(ZRMutableStringRef__* string, ZRLong start,
-                                             ZRLong end);
+      ZRLong end);
   /// Calls ::ZRMutableStringPadLeading().
   static ZRLong ZRMutableStringPadLeading(ZRMutableStringRef__* string, ZRLong targetLength,
-                                          unsigned short padUnit, unsigned char* padded);
+      unsigned short padUnit, unsigned char* padded);
   /// Calls ::ZRMutableStringPadTrailing().
   static ZRLong ZRMutableStringPadTrailing(ZRMutableStringRef__* string, ZRLong targetLength,
-                                           unsigned short padUnit, unsigned char* padded);
+      unsigned short padUnit, unsigned char* padded);
   /// Calls ::ZRMutableStringTruncate().
   static ZRLong ZRMutableStringTruncate(ZRMutableStringRef__* string, ZRLong targetLength,
-                                        unsigned char* truncated);
+      unsigned char* truncated);
   /// Calls ::ZRMutableStringTrim().
   static ZRLong ZRMutableStringTrim(ZRMutableStringRef__* string);
   /// Calls ::ZRMutableStringToUpper().
@@ -146,7 +139,7 @@ class ZR_API ZRMutableStringDKInterfaceImpl {
   static ZRLong ZRMutableStringToLower(ZRMutableStringRef__* string);
   /// Calls ::ZRMutableStringGetBufferWithCapacity().
   static ZRLong ZRMutableStringGetBufferWithCapacity(ZRMutableStringRef__* string,
-                                                     ZRLong minCapacity, unsigned short** buffer);
+      ZRLong minCapacity, unsigned short** buffer);
   /// Calls ::ZRMutableStringGetCapacity().
   static ZRLong ZRMutableStringGetCapacity(ZRMutableStringRef__* string, ZRLong* capacity);
   /// Calls ::ZRMutableStringReleaseBuffer().
@@ -155,10 +148,10 @@ class ZR_API ZRMutableStringDKInterfaceImpl {
   static ZRLong ZRMutableStringReverse(ZRMutableStringRef__* string, ZRLong start, ZRLong length);
   /// Calls ::ZRMutableStringAddStrings().
   static ZRLong ZRMutableStringAddStrings(ZRStringRef__* first, ZRStringRef__* second,
-                                          ZRMutableStringRef__** out);
+      ZRMutableStringRef__** out);
   /// Calls ::ZRMutableStringLastIndexOf().
   static ZRLong ZRMutableStringLastIndexOf(ZRMutableStringRef__* string, unsigned short unit,
-                                           ZRLong* index);
+      ZRLong* index);
 
   /// The immutable handle of a mutable string, null for null. Returns no status, and has no plain
   /// function.
@@ -175,7 +168,7 @@ class ZR_API ZRStringCDKInterfaceImpl {
   static ZRLong ZRSPtrArrayCreate(ZRStringPtrArrayRef__** out);
   /// Calls ::ZRStrPtrArrCreateFromZRStrPtrArr().
   static ZRLong ZRSPtrArrayCreateFromZRSPtrArray(ZRStringPtrArrayRef__* source,
-                                                 ZRStringPtrArrayRef__** out);
+      ZRStringPtrArrayRef__** out);
   /// Calls ::ZRStringPtrArrayDestroy().
   static ZRLong ZRSPtrArrayDestroy(ZRStringPtrArrayRef__* array);
   /// Calls ::ZRStringPtrArraySize().
@@ -184,13 +177,13 @@ class ZR_API ZRStringCDKInterfaceImpl {
   static ZRLong ZRSPtrArrayIsEmpty(ZRStringPtrArrayRef__* array, unsigned char* isEmpty);
   /// Calls ::GetZRStringRefAt().
   static ZRLong ZRSPtrArrayGetZRStringRefAt(ZRStringPtrArrayRef__* array, ZRLong index,
-                                            ZRStringRef__** string);
+      ZRStringRef__** string);
   /// Calls ::SetZRStringRefAt().
   static ZRLong ZRSPtrArraySetZRStringRefAt(ZRStringPtrArrayRef__* array, ZRLong index,
-                                            ZRStringRef__* string);
+      ZRStringRef__* string);
   /// Calls ::InsertZRStringRefAt(). Returns 6, not 5, if `string` is null.
   static ZRLong ZRSPtrArrayInsertZRStringRefAt(ZRStringPtrArrayRef__* array, ZRLong index,
-                                               ZRStringRef__* string);
+      ZRStringRef__* string);
   /// Calls ::ZRStringPtrArrayPushBack().
   static ZRLong ZRSPtrArrayPushBack(ZRStringPtrArrayRef__* array, ZRStringRef__* string);
   /// Calls ::ZRStringPtrArrayErase().
