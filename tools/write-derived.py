@@ -5,9 +5,9 @@
 
 These are the three interface classes (include/ZRString/ZRStringInterfaces.h and
 handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), the
-tables in docs/statuses.md and docs/ranges.md, and the declarations in examples/python/zrstring.py.
-Run it after a change of that header and commit what it writes. --check only compares, and fails if
-a file is out of date.
+tables in docs/statuses.md and docs/ranges.md, the declarations in examples/python/zrstring.py, and
+those for other languages in examples/languages/. Run it after a change of that header and commit
+what it writes. --check only compares, and fails if a file is out of date.
 """
 
 import dataclasses
@@ -17,6 +17,7 @@ import sys
 import textwrap
 
 import handle_header
+import language_declarations
 from handle_header import FIRST_PARAMETER, INDEX_OUTSIDE
 from line_wrapping import WIDTH, wrapped
 
@@ -27,6 +28,8 @@ CLASSES = ROOT / "handles/InterfaceClasses.cpp"
 ROWS = ROOT / "tests/HandleRows.inc"
 STATUSES = ROOT / "docs/statuses.md"
 RANGES = ROOT / "docs/ranges.md"
+TYPES = ROOT / "include/ZRString/ZRTypes.h"
+LANGUAGES = ROOT / "examples/languages"
 PYTHON = ROOT / "examples/python/zrstring.py"
 
 
@@ -307,10 +310,13 @@ def main():
         sys.exit(__doc__)
     try:
         functions = handle_header.functions(HANDLES)
+        constants = handle_header.enumerators(TYPES, HANDLES)
+        files = dict(language_declarations.files(LANGUAGES, functions, constants))
+        files.update(written(functions))
     except ValueError as error:
         sys.exit(f"{HANDLES.name}: {error}")
     stale = []
-    for path, text in written(functions).items():
+    for path, text in files.items():
         if not path.exists() or path.read_text(encoding="utf-8") != text:
             stale.append(str(path.relative_to(ROOT)))
             if not check:

@@ -53,6 +53,8 @@ set(CPACK_PACKAGE_FILE_NAME zrstring-${PROJECT_VERSION}-win${bits})
 set(CPACK_STRIP_FILES ON)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/README.txt.in README.txt @ONLY NEWLINE_STYLE WIN32)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/README.txt DESTINATION . COMPONENT Runtime)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/languages/csharp
+  DESTINATION examples COMPONENT Development)
 install(FILES ${icu}/share/icu/${ICU_VERSION}/LICENSE
   DESTINATION licenses RENAME icu.txt COMPONENT Runtime)
 install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright

@@ -1,0 +1,3 @@
+module sign
+
+go 1.19

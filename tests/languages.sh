@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Builds the programs of examples/languages/ with the installed library, or those of the languages
+# that are named, and compares what they print with docs/languages.md. Looks that they destroy all
+# that they create, and tries the declarations of all functions. Installs the Debian packages that
+# are missing; skips a language whose compiler cannot be had. Takes a minute.
+# usage: tests/languages.sh [rust|go|csharp]...
+set -euo pipefail
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+. "$top/tools/steps.sh"
+build=$top/build/languages
+examples=$top/examples/languages
+
+# need COMMAND PACKAGE...: installs the packages if there is no COMMAND.
+need() { command -v "$1" > /dev/null || "$top/tools/install-packages.sh" "${@:2}"; }
+
+install_library() {
+  cmake --preset install -S "$top" -B "$build/zrstring"
+  cmake --build "$build/zrstring"
+  cmake --install "$build/zrstring" --prefix "$build/prefix"
+  c++ -shared -fPIC "$top/tests/languages/Alive.cpp" -o "$build/alive.so"
+}
+
+# For each language: installs its compiler; and builds `program`, with a check of all declarations.
+get_rust() { need rustc rustc && need bindgen bindgen libclang-dev; }
+build_rust() {
+  rustc --edition 2021 -D warnings -L "$build/prefix/lib" "$examples/rust/main.rs" -o program
+  # The compiler compares the declarations with those that clang reads in the C header.
+  bindgen "$top/include/ZRString/ZRStringHandles.h" -o header.rs -- -I "$top/include"
+  printf '#[path = "%s"]\n#[allow(warnings)]\n#[deny(clashing_extern_declarations)]\nmod m%d;\n' \
+    "$examples/rust/handles.rs" 1 header.rs 2 > all.rs
+  rustc --edition 2021 --crate-type lib --emit metadata all.rs
+}
+
+get_go() { need go golang-go; }
+build_go() { # cgo compares the declarations with the C header
+  (cd "$examples/go" && go vet ./... && go build -o "$build/go/program" .)
+}
+
+get_csharp() { need mcs mono-mcs && need mono mono-runtime; }
+build_csharp() {
+  mcs -warnaserror -out:program.exe "$examples"/csharp/*.cs
+  printf '#!/bin/sh\nexec mono %q\n' "$PWD/program.exe" > program
+  chmod +x program
+  mcs -out:calls.exe "$top/tests/languages/Calls.cs" "$examples/csharp/Handles.cs"
+  mono calls.exe "$top/tests/HandleRows.inc"
+}
+
+[[ " $* " =~ ^(\ (rust|go|csharp))*\ *$ ]] || die "the languages are rust, go and csharp"
+"$top/tools/install-packages.sh" cmake g++ libicu-dev make pkg-config python3
+say "building the library"
+logged "$build/library.log" install_library
+export LD_LIBRARY_PATH=$build/prefix/lib PKG_CONFIG_PATH=$build/prefix/lib/pkgconfig
+[ $# -gt 0 ] || set -- rust go csharp
+for language; do
+  "get_$language" || { say "$language: SKIPPED: there is no compiler"; continue; }
+  say "$language"
+  rm -rf "${build:?}/$language"
+  mkdir "$build/$language"
+  cd "$build/$language"
+  logged "$build/$language.log" "build_$language"
+  "$top/docs/check-page.py" "$top/docs/languages.md" \
+    env ALIVE=alive LD_PRELOAD="$build/alive.so" ./program
+  counts=$(od -An -td4 alive)
+  [[ $counts =~ ^\ *[1-9][0-9]*\ +0$ ]] || die "objects made, and never destroyed: $counts"
+done
