@@ -15,22 +15,22 @@ import sys
 import textwrap
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-PAGES = [ROOT / 'README.md', ROOT / 'docs/performance.md']
-PICTURE = ROOT / 'docs/pictures/performance.svg'
+PAGES = [ROOT / "README.md", ROOT / "docs/performance.md"]
+PICTURE = ROOT / "docs/pictures/performance.svg"
 
-PEERS = ['ZRString', 'ICU', 'QString', 'std::u16string']
-LABELS = ['ZRString', 'raw ICU', 'QString', 'std::u16string']
-COLOURS = ['#e8590c', '#1c7ed6', '#2f9e44', '#9c5fd6']
+PEERS = ["ZRString", "ICU", "QString", "std::u16string"]
+LABELS = ["ZRString", "raw ICU", "QString", "std::u16string"]
+COLOURS = ["#e8590c", "#1c7ed6", "#2f9e44", "#9c5fd6"]
 
 
 def least_times(run):
     """For each row, the least CPU time in ns of each peer, which other work disturbs least."""
     times = {}
-    for result in run['benchmarks']:
-        if result['run_type'] == 'iteration':
-            row, peer = result['run_name'].split('|')
-            peers = times.setdefault((result['family_index'], row), {})
-            peers[peer] = min(peers.get(peer, math.inf), result['cpu_time'])
+    for result in run["benchmarks"]:
+        if result["run_type"] == "iteration":
+            row, peer = result["run_name"].split("|")
+            peers = times.setdefault((result["family_index"], row), {})
+            peers[peer] = min(peers.get(peer, math.inf), result["cpu_time"])
     rows = {}
     for (_, row), peers in sorted(times.items()):
         rows.setdefault(row, {}).update(peers)
@@ -38,24 +38,24 @@ def least_times(run):
 
 
 def shown(time):
-    for unit, factor in ('ns', 1), ('µs', 1e3), ('ms', 1e6):
+    for unit, factor in ("ns", 1), ("µs", 1e3), ("ms", 1e6):
         if time < 999.5 * factor:
             break
     digits = max(0, 2 - math.floor(math.log10(time / factor)))
-    return f'{time / factor:.{min(digits, 2)}f} {unit}'
+    return f"{time / factor:.{min(digits, 2)}f} {unit}"
 
 
 def table(rows):
-    lines = ['| | ' + ' | '.join(LABELS) + ' |', '|---|' + '---:|' * len(PEERS)]
+    lines = ["| | " + " | ".join(LABELS) + " |", "|---|" + "---:|" * len(PEERS)]
     for row, times in rows.items():
-        cells = [shown(times[peer]) if peer in times else '–' for peer in PEERS]
-        lines.append(f'| {row} | ' + ' | '.join(cells) + ' |')
-    return '\n'.join(lines)
+        cells = [shown(times[peer]) if peer in times else "–" for peer in PEERS]
+        lines.append(f"| {row} | " + " | ".join(cells) + " |")
+    return "\n".join(lines)
 
 
 def system(run):
-    context = run['context']
-    repetitions = 1 + max(result.get('repetition_index', 0) for result in run['benchmarks'])
+    context = run["context"]
+    repetitions = 1 + max(result.get("repetition_index", 0) for result in run["benchmarks"])
     return textwrap.fill(
         f"Least CPU time of {repetitions} repetitions, all in one run: {context['processor']}, "
         f"{context['mhz_per_cpu'] / 1000:.1f} GHz; {context['versions']}.", 100)
@@ -63,7 +63,7 @@ def system(run):
 
 def picture(rows):
     """Each peer's time over ZRString's as a mark on a logarithmic axis, a line for each row."""
-    ratios = {row: {peer: time / times['ZRString'] for peer, time in times.items()}
+    ratios = {row: {peer: time / times["ZRString"] for peer, time in times.items()}
               for row, times in rows.items()}
     flat = [ratio for peers in ratios.values() for ratio in peers.values()]
     low, high = math.log10(min(flat)) - 0.08, math.log10(max(flat)) + 0.08
@@ -84,45 +84,45 @@ def picture(rows):
     parts = [
         f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {bottom + 34}" '
         'font-family="Helvetica, Arial, sans-serif" font-size="13">',
-        '<title>Time of each peer over that of ZRString</title>',
+        "<title>Time of each peer over that of ZRString</title>",
         # Grey that can be read on white and on black: pages choose their background themselves.
-        '<style>text{fill:#777}line{stroke:#777;stroke-opacity:.35}'
-        '.one{stroke:#e8590c;stroke-opacity:1}</style>']
+        "<style>text{fill:#777}line{stroke:#777;stroke-opacity:.35}"
+        ".one{stroke:#e8590c;stroke-opacity:1}</style>"]
     for number, label in enumerate(LABELS):
         parts += [mark(PEERS[number], 40 + 130 * number, 16),
                   f'<text x="{52 + 130 * number}" y="20">{label}</text>']
     for ratio in [0.1, 0.2, 0.5, 1, 2, 5, 10, 20, 50, 100]:
         if low <= math.log10(ratio) <= high:
-            one = ' class="one"' if ratio == 1 else ''
+            one = ' class="one"' if ratio == 1 else ""
             parts += [f'<line{one} x1="{x(ratio):.1f}" y1="{top - 14}" x2="{x(ratio):.1f}" '
                       f'y2="{bottom - 6}"/>',
                       f'<text x="{x(ratio):.1f}" y="{top - 20}" text-anchor="middle">'
-                      f'{ratio:g}×</text>']
+                      f"{ratio:g}×</text>"]
     for number, (row, peers) in enumerate(ratios.items()):
         y = top + step * number
         parts.append(f'<text x="{left - 12}" y="{y + 4}" text-anchor="end">{row}</text>')
         parts += [mark(peer, x(peers[peer]), y) for peer in reversed(PEERS) if peer in peers]
     parts += [f'<text x="{x(1) - 8:.1f}" y="{bottom + 16}" text-anchor="end">← faster</text>',
-              f'<text x="{x(1) + 8:.1f}" y="{bottom + 16}">slower than ZRString →</text>', '</svg>']
-    return '\n'.join(parts) + '\n'
+              f'<text x="{x(1) + 8:.1f}" y="{bottom + 16}">slower than ZRString →</text>', "</svg>"]
+    return "\n".join(parts) + "\n"
 
 
 def main():
-    run = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding='utf-8'))
+    run = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
     rows = least_times(run)
-    PICTURE.write_text(picture(rows), encoding='utf-8')
+    PICTURE.write_text(picture(rows), encoding="utf-8")
 
     def filled(match):
         chosen = {row: times for row, times in rows.items() if re.search(match[1], row)}
-        return f'<!-- peers: {match[1]} -->\n{table(chosen)}\n\n{system(run)}\n<!-- end of peers -->'
+        return f"<!-- peers: {match[1]} -->\n{table(chosen)}\n\n{system(run)}\n<!-- end of peers -->"
 
     for page in PAGES:
-        text = page.read_text(encoding='utf-8')
-        text, count = re.subn(r'<!-- peers: (.*?) -->.*?<!-- end of peers -->', filled, text,
+        text = page.read_text(encoding="utf-8")
+        text, count = re.subn(r"<!-- peers: (.*?) -->.*?<!-- end of peers -->", filled, text,
                               flags=re.DOTALL)
         if count == 0:
-            sys.exit(f'{page} has no marker for the table')
-        page.write_text(text, encoding='utf-8')
+            sys.exit(f"{page} has no marker for the table")
+        page.write_text(text, encoding="utf-8")
 
 
 main()
