@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "Operations.h"
+#include "Calls.h"
 
 // Makes every call a fixed number of times and has callgrind dump the instructions of each: a dump
 // named "name|icu" for an ICU call, then one named "name|library" for each call that maps to it.
@@ -41,7 +41,7 @@ int main() {
   // address decides how many instructions ICU needs to see that they do not overlap.
   IcuTexts icu;
   ZRTexts library;
-  for (const auto& [name, icuCall, member, functionName, function, before] : Operations()) {
+  for (const auto& [name, icuCall, member, functionName, function, before] : AllCalls()) {
     Count(std::string(name) + "|icu", icu, before, icuCall);
     Count(std::string(name) + "|library", library, before, member);
     if (functionName)

@@ -14,7 +14,7 @@ quietly() {
 quietly cmake --preset benchmark
 quietly cmake --build --preset benchmark --target count-calls
 tools/check-called.sh build/benchmark/libZRString.so \
-  build/benchmark/benchmarks/CMakeFiles/count-calls.dir/Operations.cpp.o benchmarks/not-counted.txt
+  build/benchmark/benchmarks/CMakeFiles/count-calls.dir/Calls.cpp.o benchmarks/not-counted.txt
 quietly valgrind --tool=callgrind --collect-atstart=no --callgrind-out-file="$work/out" \
   --log-file="$work/valgrind" build/benchmark/benchmarks/count-calls
 

@@ -1,4 +1,4 @@
-#include "Operations.h"
+#include "Calls.h"
 
 #include <ZRString/ZRStringHandles.h>
 #include <unicode/normlzr.h>
@@ -22,8 +22,8 @@ bool NormalizeIcu(icu::UnicodeString& text) {
 
 }  // namespace
 
-const std::vector<Operation>& Operations() {
-  static const std::vector<Operation> operations = {
+const std::vector<Calls>& AllCalls() {
+  static const std::vector<Calls> calls = {
       {"Compare",
        [](Icu& t) { return t.text.compare(t.start, t.length, t.twin, t.start, t.length); },
        [](ZR& t) { return t.text.Compare(t.start, t.length, t.twin, t.start, t.length); }},
@@ -359,5 +359,5 @@ const std::vector<Operation>& Operations() {
        [](ZR& t) { return t.edited.LastIndexOf(t.unit); }, "ZRMutableStringLastIndexOf",
        [](ZR& t) { return ZRMutableStringLastIndexOf(t.editedHandle, t.unit, &t.result); }},
   };
-  return operations;
+  return calls;
 }

@@ -1,5 +1,5 @@
-#ifndef ZRSTRING_BENCHMARKS_OPERATIONS_H
-#define ZRSTRING_BENCHMARKS_OPERATIONS_H
+#ifndef ZRSTRING_BENCHMARKS_CALLS_H
+#define ZRSTRING_BENCHMARKS_CALLS_H
 
 #include <cstdint>
 #include <type_traits>
@@ -40,7 +40,7 @@ enum class Before { kText, kDecomposed, kSpaced };
 
 /// A member, the ICU call that it maps to and, where there is one, the handle function over it.
 /// Where the library resolves a length of -1, the ICU call is given the length.
-struct Operation {
+struct Calls {
   const char* name;
   Call<IcuTexts> icu;
   Call<ZRTexts> member;
@@ -49,6 +49,6 @@ struct Operation {
   Before before = Before::kText;
 };
 
-const std::vector<Operation>& Operations();
+const std::vector<Calls>& AllCalls();
 
 #endif
