@@ -5,14 +5,18 @@
 #include <ZRString/ZRStringHandles.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringPtrArray.h>
+#include <gtest/gtest.h>
 
 #include <random>
+#include <stdexcept>
 #include <vector>
 
+#include "Memory.h"
 #include "Text.h"
 
 /// A string, the text that it must hold, and its body.
 struct Slot {
+  std::string name;
   std::unique_ptr<ZRString> string;
   Text text;
   const std::int32_t* body;
@@ -22,36 +26,42 @@ struct Slot {
 struct Operand {
   Slot* slot;
   const unsigned short* units;  // null for some empty texts
-  ZRLong start, length;
-  Text text, part;  // the whole, and the range
+  ZRLong start, length;         // the length is also taken for an inclusive end
+  Text text, part;              // the whole, and the range
 
   ZRString* operator->() const { return slot->string.get(); }
   ZRString& operator*() const { return *slot->string; }
 };
 
-/// The objects and arguments of one call, and the results of the model.
+inline std::ostream& operator<<(std::ostream& stream, const Operand& operand) {
+  return stream << operand.slot->name << ", " << testing::PrintToString(operand.text) << ", start "
+                << operand.start << ", length " << operand.length;
+}
+
+/// The objects and arguments of one call, under the names that the table of operations uses.
 struct Case {
-  Operand t, o, p;  // the target, and two operands, each perhaps the target; units end with a zero
-  Operand raw;      // the units of `o`, of which the range can be read; not always with a zero
-  std::string bytes;   // the text of `o` in windows-1252
-  UniStr255 record;    // of the range of `raw`
-  ZRStringMutator* m;  // the target, or null if it is no mutator
-  ZRStringPtrArray* a;
+  Operand target, source, replacement;  // the last two may be the target; units end with a zero
+  Operand raw;  // the units of `source`, of which the range can be read; not always with a zero
+  std::string bytes;         // the text of `source` in windows-1252
+  UniStr255 record;          // of the range of `raw`
+  ZRStringMutator* mutator;  // the target, or null if it is no mutator
+  ZRStringPtrArray* array;
   ZRString* entry;  // one of those that the array holds
   unsigned short unit;
   ZRULong options;
-  ZRLong index, count, capacity, released;
+  ZRLong start, length, index, count, capacity, released;  // the first two are the target's
   ZRStringNormalizationMode mode;
   Text room = Text(200, u'#');  // of a caller; calls write from unit 2
 
-  // The results of the model, besides the target's text in t.text: the array's entries, and the
-  // body that the target then has; null for one that no other string has.
+  // The results of the model, at first what was before: the target's text, the room and the array's
+  // entries; and the body that the target then has, null for one that no other string has.
+  Text text, written = room;
   std::vector<ZRString*> entries;
   const std::int32_t* body = nullptr;
 
   std::vector<std::vector<unsigned short>> memory = {};  // of operands; has exactly their size
 
-  long long Size() const { return static_cast<long long>(t.text.size()); }
+  long long Size() const { return static_cast<long long>(target.text.size()); }
   unsigned short* Room() { return reinterpret_cast<unsigned short*>(room.data()); }
 };
 
@@ -63,21 +73,30 @@ enum Kind {
   kSum,      // as kMake for a mutator, by members that edit a copy or by a create function
 };
 
-using Function = long long (*)(Case&);  // returns a number or the hash of a text
-
+/// A call or its model: the text, which messages quote, and a function that returns a number.
 struct Form {
-  Function call;
+  const char* text;
+  long long (*call)(Case&);
   bool valid = false;  // calls a handle function, which refuses invalid arguments
 };
 
+/// An operation: its model, which runs after the call, and all forms of the call.
 struct Operation {
-  const char* name;
+  Operation(Kind itsKind, Form itsModel, std::initializer_list<Form> members,
+            std::initializer_list<Form> functions = {})
+      : kind(itsKind), model(itsModel), forms(members) {
+    for (Form form : functions)
+      forms.push_back((form.valid = true, form));
+  }
+
   Kind kind;
-  Function model;
+  Form model;
   std::vector<Form> forms;
 };
 
 const std::vector<Operation>& Operations();
+
+constexpr long long kNone = 12;  // the result of a call that finds no entry
 
 class World {
  public:
@@ -88,6 +107,51 @@ class World {
 
   unsigned Below(std::size_t limit) { return static_cast<unsigned>(random_() % limit); }
 
+  /// Draws and makes any call, and compares everything with the model.
+  void Step() {
+    const Operation& operation = Operations()[Below(Operations().size())];
+    Step(operation, operation.forms[Below(operation.forms.size())], 0, 0);
+  }
+
+  /// A step in which `count` allocations fail after `point` others. @return whether one did
+  bool Step(const Operation& operation, const Form& form, long point, long count) {
+    if (testing::Test::HasFailure())
+      return false;
+    const Kind kind = operation.kind;
+    Case c = Draw(kind, form.valid);
+    long long result = 0;
+    std::string complaint;
+    bool thrown = false;
+    heap.Fail(point, count);
+    try {
+      result = form.call(c);
+    } catch (const std::bad_alloc&) {
+      thrown = true;
+    } catch (const std::out_of_range& error) {
+      result = std::strcmp(error.what(), "invalid vector<T> subscript") ? 0 : kNone;
+    } catch (const std::string& text) {
+      complaint = text;
+    }
+    const bool failed = heap.Recover() && count > 0;
+    EXPECT_TRUE(failed || !thrown) << "std::bad_alloc";
+    EXPECT_EQ(complaint, "") << "what the call did";
+    const bool loses = kind == kEdit || (kind == kSum && !form.valid);
+    if (!thrown && (!failed || kind != kAttempt || result != 0))
+      Settle(operation, c, result, failed && loses);
+    ExpectAllAsModelled();
+    if (testing::Test::HasFailure())
+      ADD_FAILURE() << form.text << "\n  target: " << c.target << "\n  source: " << c.source
+                    << "\n  replacement: " << c.replacement << "\n  unit " << c.unit << ", options "
+                    << c.options << ", index " << c.index << ", count " << c.count << ", capacity "
+                    << c.capacity << ", released " << c.released << ", mode " << c.mode;
+    if (c.target.slot->text.size() > 64)
+      Reset(*c.target.slot);
+    return failed;
+  }
+
+ private:
+  static constexpr std::size_t kStrings = 3, kSlots = 6;  // the others are mutators
+
   /// Draws the arguments of an operation; `valid` ones are accepted by the handle functions.
   Case Draw(Kind kind, bool valid) {
     Case c{};
@@ -97,94 +161,83 @@ class World {
     };
     const auto operand = [&](Slot& slot) -> Operand {
       const ZRLong start = Below(3) ? Edge(valid) : 0, length = Below(3) ? Edge(valid) : -1;
-      const bool own = c.m && &slot == c.t.slot && Below(2);
+      const bool own = c.mutator && &slot == c.target.slot && Below(2);
       const bool zero = valid || !slot.text.empty() || Below(2);
-      const unsigned short* const units = own ? c.m->GetTerminatedBuffer() : exact(slot.text, zero);
+      const unsigned short* const units =
+          own ? c.mutator->GetTerminatedBuffer() : exact(slot.text, zero);
       return {&slot, units, start, length, slot.text, Cut(slot.text, start, length)};
     };
     const std::size_t first = kind == kQuery || kind == kMake ? 0 : kStrings;
-    c.t = operand(slots_[first + Below(kSlots - first)]);
-    c.m = dynamic_cast<ZRStringMutator*>(c.t.slot->string.get());
-    c.o = operand(Below(3) ? slots_[Below(kSlots)] : *c.t.slot);
-    c.p = operand(Below(3) ? slots_[Below(kSlots)] : *c.t.slot);
-    c.raw = c.o;
+    c.target = operand(slots_[first + Below(kSlots - first)]);
+    c.start = c.target.start, c.length = c.target.length;
+    c.mutator = dynamic_cast<ZRStringMutator*>(c.target.slot->string.get());
+    c.source = operand(Below(3) ? slots_[Below(kSlots)] : *c.target.slot);
+    c.replacement = operand(Below(3) ? slots_[Below(kSlots)] : *c.target.slot);
+    c.raw = c.source;
     const unsigned place = valid ? 0 : Below(3);
     if (place > 0)
-      c.raw.units = place == 1 ? c.o->GetBuffer() : exact(c.o.text, false);
-    const auto size = static_cast<ZRLong>(c.o.text.size());
+      c.raw.units = place == 1 ? c.source->GetBuffer() : exact(c.source.text, false);
+    const auto size = static_cast<ZRLong>(c.source.text.size());
     c.raw.start = Below(2) ? Below(size + 1) : 0;
     c.raw.length = Below(size - c.raw.start + 1);
     if (place == 0 && !valid && Below(2))
       c.raw.length = Pick({-1, -1, -2, INT_MIN});
-    c.raw.part = c.o.text.substr(c.raw.start, c.raw.length);  // a negative length: all
+    c.raw.part = c.source.text.substr(c.raw.start, c.raw.length);  // a negative length: all
     if (!valid && Below(8) == 0)
-      c.raw = {c.o.slot, nullptr, 5, Pick({-2, -1, 0, 3}), u"", u""};
-    for (const char16_t each : c.o.text)
+      c.raw = {c.source.slot, nullptr, 5, Pick({-2, -1, 0, 3}), u"", u""};
+    for (const char16_t each : c.source.text)
       c.bytes += static_cast<char>(each == 0x20AC ? 0x80 : each);
     const Text rest = Cut(c.raw.text, c.raw.start, -1);
     std::copy(rest.begin(), rest.end(), c.record.units);
     c.record.length = c.raw.length < 0 ? -1 : static_cast<ZRLong>(c.raw.part.size());
-    c.a = &array_;
+    c.array = &array_;
     c.entry = &pool_[Below(std::size(pool_))];
+    c.text = c.target.text;
     c.entries = entries_;
     c.unit = Unit();
     c.options = Pick({0, 1, 2, 3, 3, 0x8000});
     c.index = Below(2) ? Below(6) : Edge(false);
-    c.count = std::max<ZRLong>(c.t.length, 1);
+    c.count = std::max<ZRLong>(c.target.length, 1);
     c.capacity = Pick({valid ? 0 : -1, 0, 1, 5, 27, 28, 40});
     c.released = Pick({-1, 0, 1, 2});
     c.mode = static_cast<ZRStringNormalizationMode>(Pick({2, 3, 3, 4, 5, 5, 6, 7, INT_MIN}));
     return c;
   }
 
-  /// Draws, calls and checks an operation. @return what is wrong; empty if nothing is
-  std::string Step(const Operation& operation) {
-    const std::size_t form = Below(operation.forms.size());
-    Case c = Draw(operation.kind, operation.forms[form].valid);
-    const std::string wrong = Settle(operation, c, operation.forms[form].call(c));
-    return wrong.empty() ? "" : operation.name + (", form " + std::to_string(form)) + ": " + wrong;
-  }
-
-  /// Compares a call with the model, whose state it then updates. The call may have lost the
-  /// target's text, which then reads as empty, if `mayLose`. @return what is wrong
-  std::string Settle(const Operation& operation, Case& c, long long result, bool mayLose = false) {
-    const bool right = result == operation.model(c);
-    Slot& slot = *c.t.slot;
+  /// Compares the result of a call with that of the model, and updates what the objects must be.
+  /// The call may have lost the target's text, which then reads as empty, if `mayLose`.
+  void Settle(const Operation& operation, Case& c, long long result, bool mayLose) {
+    const long long expected = operation.model.call(c);
+    Slot& slot = *c.target.slot;
     if (mayLose && !slot.string->GetBuffer())
-      c.t.text.clear();
-    else if (!right)
-      return "another result";
-    if (operation.kind != kQuery) {
-      // An edit keeps a body that no other string has, if the target is no operand.
-      const bool keeps = operation.kind == kAttempt && c.t.text == slot.text;
-      const bool edits = operation.kind < kMake && c.o.slot != &slot && c.p.slot != &slot;
-      if (!c.body && (keeps || (edits && HoldersOf(slot.body) == 1)))
-        c.body = slot.body;
-      slot.body = nullptr;
-      const std::int32_t* const body = BodyOf(*slot.string);
-      if (c.body ? body != c.body : HoldersOf(body) > 0)
-        return "the target has another body than it must";
-      slot.body = body;
-      slot.text = c.t.text;
-    }
+      c.text.clear();
+    else
+      EXPECT_EQ(result, expected) << "the result, from " << operation.model.text;
+    EXPECT_EQ(c.room, c.written);
     entries_ = c.entries;
-    const std::string difference = Difference();
-    if (slot.text.size() > 64)
-      Reset(slot);
-    return difference;
+    if (operation.kind == kQuery)
+      return;
+    // An edit keeps a body that no other string has, if the target is no operand.
+    const bool keeps = operation.kind == kAttempt && c.text == slot.text;
+    const bool edits =
+        operation.kind < kMake && c.source.slot != &slot && c.replacement.slot != &slot;
+    if (!c.body && (keeps || (edits && HoldersOf(slot.body) == 1)))
+      c.body = slot.body;
+    slot.body = nullptr;
+    const std::int32_t* const body = BodyOf(*slot.string);
+    slot.body = c.body || HoldersOf(body) > 0 ? c.body : body;
+    slot.text = c.text;
   }
 
-  /// @return how the objects differ from what they must be; empty if they do not
-  std::string Difference() const {
-    for (const auto& [string, text, body] : slots_)
-      if (TextOf(*string) != text || BodyOf(*string) != body || Holders(*string) != HoldersOf(body))
-        return "a string has another text, body or number of holders";
-    const bool same = std::equal(array_.Begin(), array_.End(), entries_.begin(), entries_.end());
-    return same ? "" : "the array has other entries";
+  void ExpectAllAsModelled() const {
+    for (const Slot& slot : slots_) {
+      EXPECT_EQ(TextOf(*slot.string), slot.text) << "the text of " << slot.name;
+      EXPECT_EQ(BodyOf(*slot.string), slot.body)
+          << "the body of " << slot.name << (slot.body ? "" : ", which must be a new one");
+      EXPECT_EQ(Holders(*slot.string), HoldersOf(slot.body)) << "the holders of " << slot.name;
+    }
+    EXPECT_EQ(std::vector(array_.Begin(), array_.End()), entries_) << "the array";
   }
-
- private:
-  static constexpr std::size_t kStrings = 3, kSlots = 6;  // the others are mutators
 
   ZRLong Pick(std::initializer_list<int> values) { return values.begin()[Below(values.size())]; }
 
@@ -203,6 +256,8 @@ class World {
     const ZRString made = Make(slot.text);
     slot.string.reset(&slot < slots_ + kStrings ? new ZRString(made) : new ZRStringMutator(made));
     slot.body = BodyOf(made);
+    slot.name = (&slot < slots_ + kStrings ? "ZRString " : "ZRStringMutator ") +
+                std::to_string(&slot - slots_);
   }
 
   int HoldersOf(const std::int32_t* body) const {
