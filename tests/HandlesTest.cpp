@@ -8,6 +8,7 @@
 
 #include <fstream>
 #include <functional>
+#include <set>
 #include <tuple>
 #include <vector>
 
@@ -66,6 +67,8 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
   {#function, Erased(&::function), Erased(&member), {__VA_ARGS__}},
 #include "HandleRows.inc"
   };
+  std::ifstream exports(ZRSTRING_PLAIN_EXPORTS);
+  std::set<std::string> untested(std::istream_iterator<std::string>(exports), {});
   for (const auto& [name, plain, member, parameters] : rows)
     for (std::size_t position = 0; position < parameters.size(); ++position)
       for (const Word value : parameters[position].invalid)
@@ -84,9 +87,9 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
           EXPECT_EQ(written, before);
           EXPECT_EQ(TextOf(text) + TextOf(mutableText), u"abcabc");
           EXPECT_EQ(strings.Size(), 1u);
+          untested.erase(name);
         }
-  std::ifstream list(ZRSTRING_PLAIN_EXPORTS);
-  EXPECT_EQ(std::count(std::istreambuf_iterator<char>(list), {}, '\n'), std::size(rows));
+  EXPECT_EQ(untested, std::set<std::string>());
 }
 
 TEST(Handles, OverriddenMembersAreCalled) {
