@@ -37,7 +37,7 @@ struct Memory {
 
 inline Memory heap;
 
-/// Makes ICU use it, too.
+/// Makes ICU allocate from `heap`.
 inline void TakeIcuMemory() {
   UErrorCode status = U_ZERO_ERROR;
   u_setMemoryFunctions(

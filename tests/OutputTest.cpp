@@ -45,7 +45,7 @@ TEST(Output, DecodingAndWideningNeedNoLocale) {
   EXPECT_EQ(stream.widen('\xE9'), 0xE9);
 }
 
-TEST(Output, FailuresStandInTheState) {
+TEST(Output, FailuresSetTheStreamState) {
   Stream failed;
   failed.setstate(std::ios::badbit);
   failed << Make(u"abc") << "abc";
