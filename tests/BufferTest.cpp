@@ -9,16 +9,19 @@
 /// Calls that change nothing if there is no text.
 static void ExpectNoText(ZRStringMutator& string) {
   const ZRString other = Make(u"xyz");
-  string.Append(other, 0, kZRToEnd).Insert(0, other, 0, kZRToEnd);
-  string.Replace(0, 1, other, 0, kZRToEnd).RemoveBetween(0, INT32_MAX).Remove(0, kZRToEnd);
-  string.Insert(0, Raw(u"x"), 0, 1).SetCharAt(0, 'x').Trim() += 'x';
-  string.PadLeading(5, 'x');
-  string.PadTrailing(5, 'x');
-  string.Truncate(1);
-  string.ReleaseBuffer(-2);
+  EXPECT_FALSE(string.Append(other, 0, kZRToEnd).GetBuffer());
+  EXPECT_FALSE(string.Insert(0, other, 0, kZRToEnd).GetBuffer());
+  EXPECT_FALSE(string.Insert(0, Raw(u"x"), 0, 1).GetBuffer());
+  EXPECT_FALSE(string.Replace(0, 1, other, 0, kZRToEnd).GetBuffer());
+  EXPECT_FALSE(string.RemoveBetween(0, INT32_MAX).GetBuffer());
+  EXPECT_FALSE(string.Remove(0, kZRToEnd).GetBuffer());
+  EXPECT_FALSE((string.SetCharAt(0, 'x').Trim() += 'x').GetBuffer());
+  EXPECT_FALSE((string.PadLeading(5, 'x'), string.GetBuffer()));
+  EXPECT_FALSE((string.PadTrailing(5, 'x'), string.GetBuffer()));
+  EXPECT_FALSE((string.Truncate(1), string.GetBuffer()));
+  EXPECT_FALSE((string.ReleaseBuffer(-2), string.GetBuffer()));
   EXPECT_EQ(string.GetBuffer(9), nullptr);
   EXPECT_EQ(string.GetTerminatedBuffer(), nullptr);
-  EXPECT_EQ(string.GetBuffer(), nullptr);
   EXPECT_EQ(string.GetLength(), 0);
   EXPECT_EQ(string.IsEmpty(), 1);
 }
