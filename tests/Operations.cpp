@@ -187,7 +187,7 @@ bool FillBuffer(const Case& c, unsigned short* units) {
 
 /// Whether reading takes exactly the calls that writing makes.
 template <typename From, typename To>
-bool PassedOn(From& from, To& to) {
+bool WrittenAndRead(From& from, To& to) {
   Recorder stream;
   stream << from;
   stream.input.swap(stream.output);
@@ -196,12 +196,12 @@ bool PassedOn(From& from, To& to) {
 }
 
 /// Whether a record of the array gives equal strings, which DeleteAll() destroys.
-bool PassedOnAndDeleted(ZRStringPtrArray& array) {
+bool WrittenReadAndDeleted(ZRStringPtrArray& array) {
   struct OwningArray : ZRStringPtrArray {
     ~OwningArray() { DeleteAll(); }
   } read;
   const auto same = [](const ZRString* left, const ZRString* right) { return *left == *right; };
-  const bool passed = PassedOn(array, read) &&
+  const bool passed = WrittenAndRead(array, read) &&
                       std::equal(read.Begin(), read.End(), array.Begin(), array.End(), same);
   read.PushBack(nullptr);  // DeleteAll() skips it
   const bool holdsNull = !read[-1];
@@ -231,7 +231,7 @@ bool AssignedFromCreated(ZRStringPtrArray& array, Create create, Sources... sour
 }
 
 /// Writes a string where a stream has units already, so that the stream allocates nothing.
-bool Streamed(const ZRString& string) {
+bool Serialized(const ZRString& string) {
   static std::basic_ostringstream<unsigned short> stream(std::basic_string<unsigned short>(200, 0));
   return stream.seekp(0), (stream << string).tellp() == string.GetLength();
 }
@@ -341,7 +341,7 @@ const std::vector<Operation> kOperations = {
     Row(kEdit,
         ZR_DO(source.text.empty() ? Becomes(c, target.text, target.slot->body)
                                   : Becomes(c, source.text)),
-        {ZR_DO(PassedOn(*source, *mutator))}),
+        {ZR_DO(WrittenAndRead(*source, *mutator))}),
 
     // Edits that insert and remove.
     Row(kEdit, ZR_DO(Becomes(c, target.text + source.part)),
@@ -482,9 +482,9 @@ const std::vector<Operation> kOperations = {
          ZR_DO(AssignedFromCreated(*array, ZRStringPtrArrayCreate))},
         {ZR_DO(Called(ZRStringPtrArrayEraseAll, array))}),
     Row(kQuery, ZR_DO(true),
-        {ZR_DO(&(*array = *array) == array), ZR_DO(PassedOnAndDeleted(*array)),
+        {ZR_DO(&(*array = *array) == array), ZR_DO(WrittenReadAndDeleted(*array)),
          ZR_DO(AssignedFromCreated(*array, ZRStrPtrArrCreateFromZRStrPtrArr, Handle(array))),
-         ZR_DO(Streamed(*target))}),
+         ZR_DO(Serialized(*target))}),
 };
 
 const std::vector<Operation>& Operations() { return kOperations; }
