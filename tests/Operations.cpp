@@ -84,6 +84,14 @@ bool Writes(Case& c, const Text& units) { return c.written.replace(2, units.size
 
 ZRString& Whole(Operand& operand) { return operand.part = operand.text, *operand; }
 
+/// Ten times the text, which is more than the conversions keep on the stack.
+const Text& Tenfold(Operand& operand) {
+  operand.part.clear();
+  for (int i = 0; i < 10; ++i)
+    operand.part += operand.text;
+  return operand.part;
+}
+
 /// The length is an inclusive end.
 Operand& Between(Operand& operand) {
   operand.part = CutBetween(operand.text, operand.start, operand.length);
@@ -422,9 +430,8 @@ const std::vector<Operation> kOperations = {
          ZR_DO(New(c, ZRString(Units(c), raw.length))),
          ZR_DO(New(c, ZRString((Whole(source), source.units)))),
          ZR_DO(New(c, Chars(c), raw.start, raw.length)),
-         ZR_DO(New(c, Bytes(c), raw.start, raw.length)),
-         ZR_DO(New(c, FromUtf16((Whole(source), source.text)))),
-         ZR_DO(New(c, FromUtf8(ToUtf8((Whole(source), source.text))))),
+         ZR_DO(New(c, Bytes(c), raw.start, raw.length)), ZR_DO(New(c, FromUtf16(Tenfold(source)))),
+         ZR_DO(New(c, FromUtf8(ToUtf8(Tenfold(source))))),
          ZR_DO(New(c, FromUtf8(ToUtf8(Whole(source)))))},
         {ZR_DO(Created(c, ZRStringCreateFromUniChars, ZRMutableStringCreateFromUniChars,
                        ZR_UNITS(Raw(c)))),
