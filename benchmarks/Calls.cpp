@@ -70,6 +70,42 @@ const std::vector<Calls>& AllCalls() {
        [](ZR& t) {
          return t.text.ICompare(t.start, kEnd, t.upper, t.start, kEnd, kZRCompareIgnoreCase);
        }},
+      {"ICompare, option 0, accented",
+       [](Icu& t) {
+         return t.accented.string.caseCompare(t.start, t.length, t.accentedUpper, t.start, t.length,
+                                              0);
+       },
+       [](ZR& t) {
+         return t.accented.string.ICompare(t.start, kEnd, t.accentedUpper, t.start, kEnd,
+                                           kZRCompareIgnoreCase);
+       }},
+      {"ICompare, option 0, Greek",
+       [](Icu& t) {
+         return t.greek.string.caseCompare(t.start, t.length, t.greekUpper, t.start, t.length, 0);
+       },
+       [](ZR& t) {
+         return t.greek.string.ICompare(t.start, kEnd, t.greekUpper, t.start, kEnd,
+                                        kZRCompareIgnoreCase);
+       }},
+      {"ICompare, option 0, supplementary",
+       [](Icu& t) {
+         return t.paired.string.caseCompare(t.start, t.length, t.pairedUpper, t.start, t.length, 0);
+       },
+       [](ZR& t) {
+         return t.paired.string.ICompare(t.start, kEnd, t.pairedUpper, t.start, kEnd,
+                                         kZRCompareIgnoreCase);
+       }},
+      {"CompareCodePointOrder, supplementary",
+       [](Icu& t) {
+         return t.paired.string.compareCodePointOrder(t.start, t.length, t.pairedUpper, t.start,
+                                                      t.length);
+       },
+       [](ZR& t) {
+         return t.paired.string.CompareCodePointOrder(t.start, kEnd, t.pairedUpper, t.start, kEnd);
+       }},
+      {"Find, half of a pair",
+       [](Icu& t) { return t.paired.string.indexOf(t.pairedUpper, 1, 1, t.start, t.length); },
+       [](ZR& t) { return t.paired.string.Find(t.pairedUpper, 1, 1, t.start, kEnd); }},
       {"ICompare, option 0, raw",
        [](Icu& t) {
          return t.text.caseCompare(t.start, t.length, t.upper.Raw(), t.start, t.length, 0);
@@ -310,6 +346,12 @@ const std::vector<Calls>& AllCalls() {
        }},
       {"Normalize, composed text", [](Icu& t) { return NormalizeIcu(t.edited); },
        [](ZR& t) { return t.edited.Normalize(kZRNormalizationNFC); }},
+      {"Normalize, Greek text",
+       [](Icu& t) { return NormalizeIcu(t.edited); },
+       [](ZR& t) { return t.edited.Normalize(kZRNormalizationNFC); },
+       nullptr,
+       {},
+       Before::kGreek},
       {"Normalize, decomposed text",
        [](Icu& t) { return NormalizeIcu(t.edited); },
        [](ZR& t) { return t.edited.Normalize(kZRNormalizationNFC); },

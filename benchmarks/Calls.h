@@ -36,7 +36,7 @@ class Call {
 };
 
 /// What the strings under edit hold before a call.
-enum class Before { kText, kDecomposed, kSpaced };
+enum class Before { kText, kDecomposed, kGreek, kSpaced };
 
 /// A member, the ICU call that it maps to and, where there is one, the handle function over it.
 /// Where the library resolves a length of -1, the ICU call is given the length.

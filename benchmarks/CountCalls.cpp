@@ -20,6 +20,7 @@ template <typename Texts>
 void Count(const std::string& dump, Texts& texts, Before before, const Call<Texts>& call) {
   const auto& text = before == Before::kText         ? texts.whole
                      : before == Before::kDecomposed ? texts.decomposed
+                     : before == Before::kGreek      ? texts.greek
                                                      : texts.spaced;
   texts.edited = decltype(texts.edited)();
   for (int i = 0; i < kWarmUp + kCalls; ++i) {

@@ -39,25 +39,25 @@ def counts(folder):
 def judge(lines, counted, recording):
     """Prints the table. Returns its lines with the new numbers, and the complaints. Takes what the
     table has out of `counted`."""
-    written, complaints, limit = [], [], None
+    written, complaints, limit, whole = [], [], None, False
     print(*(f"{head:>8}" for head in ("ICU", "library", "more", "recorded", "limit")))
     for line in lines:
         row = re.fullmatch(r" +(\S+) (.*)", line)
         if re.match("[-0-9]", line):
-            limit = line.split()[0]
+            limit, whole = line.split()[0], " whole: " in line
         elif row and row[2] not in counted:
             complaints.append(f"{row[2]}: not counted")
         elif row:
             recorded, name = int(row[1]), row[2]
             icu, library = counted.pop(name)
-            more = int(f"{library - icu:.0f}")
+            more = int(f"{library - (0 if whole else icu):.0f}")
             print(f"{icu:8.0f} {library:8.0f} {more:8} {recorded:8} {limit:>8}  {name}")
             if limit != "-" and more > int(limit):
                 complaints.append(f"{name}: {more}, the limit is {limit}")
             if not recording and more > recorded + TOLERANCE:
                 complaints.append(f"{name}: {more}, {recorded} recorded")
             if more < recorded - TOLERANCE:
-                print("  fewer than recorded: --record keeps it so")
+                print("  fewer than recorded: --record lowers the record")
             line = f"{more:6} {name}"
         written.append(line)
     return written, complaints + [f"{name}: not in {TABLE.name}" for name in counted]

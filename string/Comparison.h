@@ -62,8 +62,15 @@ inline signed char InUnitOrder(Units left, Units right) {
                          : Order(left.count, right.count);
 }
 
-/// Compares in code point order. That is the order of the units in which the texts first differ.
-/// Does not decide if both are at or above U+D800, where either may be a surrogate.
+/// Whether the unit at `place` is half of a surrogate pair.
+inline bool IsInPair(Units text, std::int32_t place) {
+  const char16_t unit = text.first[place];
+  return IsLead(unit) ? place + 1 < text.count && IsTrail(text.first[place + 1])
+                      : IsTrail(unit) && place > 0 && IsLead(text.first[place - 1]);
+}
+
+/// Compares in code point order: by the units in which the texts first differ, except that half of
+/// a pair sorts after every unit that is none. Decides all texts but null ones.
 inline signed char InCodePointOrder(Units left, Units right) {
   if (!left.first || !right.first)
     return kUndecided;
@@ -71,8 +78,8 @@ inline signed char InCodePointOrder(Units left, Units right) {
   const std::int32_t equal = EqualUnits(left.first, right.first, shorter);
   if (equal == shorter)
     return Order(left.count, right.count);
-  const char16_t ours = left.first[equal], theirs = right.first[equal];
-  return ours >= 0xD800 && theirs >= 0xD800 ? kUndecided : Order(ours, theirs);
+  const bool ours = IsInPair(left, equal), theirs = IsInPair(right, equal);
+  return ours == theirs ? Order(left.first[equal], right.first[equal]) : Order(ours, theirs);
 }
 
 /// Whether every unit is below `limit`.

@@ -10,18 +10,17 @@
 #include "string/CodeUnits.h"
 #include "string/Comparison.h"
 
-/// The place of the first occurrence of a pattern, which is not empty, in a text; -1 if there is
-/// none. As ICU's indexOf().
-///
-/// ICU looks at each place; this looks at places in blocks, for the pattern's first and last unit.
-/// A pattern that begins or ends with half of a surrogate pair must not split a pair: ICU finds it.
-inline std::int32_t IndexOf(Units text, Units pattern) {
+/// Whether a pattern, which is not empty, may occur in the middle of a surrogate pair, where it
+/// must not be found.
+inline bool MaySplitPair(Units pattern) {
+  return IsTrail(pattern.first[0]) || IsLead(pattern.first[pattern.count - 1]);
+}
+
+/// The place of the first occurrence of a pattern for which MaySplitPair() is false; -1 if there is
+/// none. ICU looks at one place after another; this looks at blocks of places, for the first and
+/// the last unit of the pattern.
+[[gnu::noinline]] inline std::int32_t IndexOfWhole(Units text, Units pattern) {
   const char16_t first = pattern.first[0], last = pattern.first[pattern.count - 1];
-  if (IsTrail(first) || IsLead(last)) {
-    const char16_t* const found =
-        u_strFindFirst(text.first, text.count, pattern.first, pattern.count);
-    return found ? static_cast<std::int32_t>(found - text.first) : -1;
-  }
   const std::int32_t places = text.count - pattern.count + 1;
   const char16_t* const ends = text.first + pattern.count - 1;
   const auto isAt = [&](std::int32_t place) {
@@ -45,6 +44,15 @@ inline std::int32_t IndexOf(Units text, Units pattern) {
     if (isAt(i))
       return i;
   return -1;
+}
+
+/// As ICU's indexOf(), for a pattern that is not empty.
+inline std::int32_t IndexOf(Units text, Units pattern) {
+  if (!MaySplitPair(pattern))
+    return IndexOfWhole(text, pattern);
+  const char16_t* const found =
+      u_strFindFirst(text.first, text.count, pattern.first, pattern.count);
+  return found ? static_cast<std::int32_t>(found - text.first) : -1;
 }
 
 #endif
