@@ -1,5 +1,8 @@
 #include <benchmark/benchmark.h>
 #include <unicode/uvernum.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include <cstdio>
 #include <fstream>
@@ -97,6 +100,25 @@ void AddCopy(const char* row, std::u16string_view text) {
   });
 }
 
+/// A row of memory instead of time: the heap's share of a string, without the object itself.
+template <typename Peer>
+void AddHeap(const char* row, std::size_t length) {
+#ifdef __GLIBC__
+  const std::string name = std::string(row) + "|" + Peer::kName;
+  benchmark::RegisterBenchmark(name.c_str(), [text = Text(length, u"quay")](auto& state) {
+    constexpr std::size_t kStrings = 10000;
+    for (auto _ : state) {
+      std::vector<typename Peer::Constant> strings;
+      strings.reserve(kStrings);
+      const std::size_t before = mallinfo2().uordblks;
+      for (std::size_t i = 0; i < kStrings; ++i)
+        strings.emplace_back(Peer::Make(text));
+      state.counters["bytes"] = static_cast<double>(mallinfo2().uordblks - before) / kStrings;
+    }
+  });
+#endif
+}
+
 template <typename Peer>
 void AddUtf8(const char* rowFrom, const char* rowTo, const std::u16string& text) {
   const std::string bytes = ToUtf8(text);
@@ -115,6 +137,9 @@ void AddPeer(const std::vector<std::u16string_view>& texts) {
     alignas(kAligned) String string = Peer::Make(shortText);
     benchmark::DoNotOptimize(string);
   });
+  AddHeap<Peer>("heap for 20 units", 20);
+  AddHeap<Peer>("heap for 28 units", 28);
+  AddHeap<Peer>("heap for 1,000 units", 1000);
   if constexpr (Peer::kCodePage) {
     const std::string bytes = "d\xE9j\xE0 vu, ici";
     Add<Peer>("create from 12 bytes of 8-bit text",

@@ -23,14 +23,19 @@ LABELS = ["ZRString", "raw ICU", "QString", "std::u16string"]
 COLOURS = ["#e8590c", "#1c7ed6", "#2f9e44", "#9c5fd6"]
 
 
+HEAP = "heap"  # how the rows of memory begin: they are bytes, not times
+
+
 def least_times(run):
-    """For each row, the least CPU time in ns of each peer, which other work disturbs least."""
+    """For each row, the least CPU time in ns of each peer, which other work disturbs least, or the
+    bytes of memory."""
     times = {}
     for result in run["benchmarks"]:
         if result["run_type"] == "iteration":
             row, peer = result["run_name"].split("|")
             peers = times.setdefault((result["family_index"], row), {})
-            peers[peer] = min(peers.get(peer, math.inf), result["cpu_time"])
+            value = result.get("bytes", result["cpu_time"])
+            peers[peer] = min(peers.get(peer, math.inf), value)
     rows = {}
     for (_, row), peers in sorted(times.items()):
         rows.setdefault(row, {}).update(peers)
@@ -48,7 +53,8 @@ def shown(time):
 def table(rows):
     lines = ["| | " + " | ".join(LABELS) + " |", "|---|" + "---:|" * len(PEERS)]
     for row, times in rows.items():
-        cells = [shown(times[peer]) if peer in times else "–" for peer in PEERS]
+        form = "{:,.0f} B".format if row.startswith(HEAP) else shown
+        cells = [form(times[peer]) if peer in times else "–" for peer in PEERS]
         lines.append(f"| {row} | " + " | ".join(cells) + " |")
     return "\n".join(lines)
 
@@ -64,11 +70,11 @@ def system(run):
 def picture(rows):
     """Each peer's time over ZRString's as a mark on a logarithmic axis, a line for each row."""
     ratios = {row: {peer: time / times["ZRString"] for peer, time in times.items()}
-              for row, times in rows.items()}
+              for row, times in rows.items() if not row.startswith(HEAP)}
     flat = [ratio for peers in ratios.values() for ratio in peers.values()]
     low, high = math.log10(min(flat)) - 0.08, math.log10(max(flat)) + 0.08
     left, right, top, step = 292, 20, 64, 22
-    width, bottom = 760, top + step * len(rows)
+    width, bottom = 760, top + step * len(ratios)
 
     def x(ratio):
         return left + (width - left - right) * (math.log10(ratio) - low) / (high - low)
