@@ -24,6 +24,31 @@ else()
     "of the C++ standard library too, and its names will have no version.")
 endif()
 
+# The stack protector guards the code that reads records and writes output. Elsewhere it would cost
+# instructions in most functions that it reaches: in string/, 4 to 20 in eight calls.
+# _FORTIFY_SOURCE needs optimization; where the compiler or its user has set it, their choice holds.
+option(ZRSTRING_HARDENING "Harden the library where that costs no instructions" ON)
+if(ZRSTRING_HARDENING)
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fstack-protector-strong ZRSTRING_COMPILER_HAS_STACK_PROTECTOR)
+  if(ZRSTRING_COMPILER_HAS_STACK_PROTECTOR)
+    get_target_property(sources ZRString SOURCES)
+    list(FILTER sources EXCLUDE REGEX ^string/)
+    set_property(SOURCE ${sources} APPEND PROPERTY COMPILE_OPTIONS -fstack-protector-strong)
+  endif()
+  set(CMAKE_REQUIRED_FLAGS -O2)
+  check_cxx_source_compiles("
+    #ifdef _FORTIFY_SOURCE
+    #error
+    #endif
+    int main() { return 0; }" ZRSTRING_FORTIFY_SOURCE_IS_FREE)
+  unset(CMAKE_REQUIRED_FLAGS)
+  if(ZRSTRING_FORTIFY_SOURCE_IS_FREE)
+    target_compile_definitions(ZRString PRIVATE
+      $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:_FORTIFY_SOURCE=2>)
+  endif()
+endif()
+
 # Inlining across the thin layers halves the cost of a handle function. lld would make an empty
 # library from GCC's intermediate code.
 include(CheckIPOSupported)
