@@ -3,6 +3,12 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# A relative --prefix is relative to the folder that `cmake --install` runs in. GDB's script lies
+# under the absolute one.
+install(CODE [[
+  get_filename_component(CMAKE_INSTALL_PREFIX "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+]] ALL_COMPONENTS)
+
 set(zrstring_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZRString)
 
 install(TARGETS ZRString EXPORT ZRString
@@ -55,10 +61,18 @@ else()
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)
+  # CMake's manifest lists only the last installation, and no DESTDIR.
+  install(CODE "set(record \"${PROJECT_BINARY_DIR}/installed.txt\")" ALL_COMPONENTS)
+  install(CODE [[
+    foreach(file IN LISTS CMAKE_INSTALL_MANIFEST_FILES)
+      get_filename_component(file "$ENV{DESTDIR}${file}" ABSOLUTE)
+      file(APPEND "${record}" "${file}\n")
+    endforeach()
+  ]] ALL_COMPONENTS)
   add_custom_target(uninstall
     COMMAND ${CMAKE_COMMAND} -P ${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
-    COMMENT "Removing what was last installed from this build folder"
+    COMMENT "Removing what was installed from this build folder"
     VERBATIM)
   if(MINGW AND CMAKE_CROSSCOMPILING)
     include(tools/windows/Package.cmake)

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Installs a build of ZRString, copies the installed tree elsewhere and uninstalls it. Compares the
-# installed files with files.txt. With the copy, builds and runs a C++ project through find_package
-# and, through pkg-config, the programs of the README, the pages and the headers; and compiles every
-# public header alone. Makes the sources part of another project.
+# Installs a build of ZRString, copies the installed tree elsewhere and uninstalls it, also from a
+# second folder and after a file that cannot be removed. Compares the installed files with files.txt.
+# With the copy, builds and runs a C++ project through find_package and, through pkg-config, the
+# programs of the README, the pages and the headers; and compiles every public header alone. Makes the
+# sources part of another project.
 # ctest sets BUILD, the build folder; CONFIG, its build type; LIBDIR, its folder of libraries below
 # the prefix; CMAKE, CC, CXX and CXXFLAGS.
 # shellcheck disable=SC2046,SC2206 # what is not quoted holds several options
@@ -17,8 +18,8 @@ export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
 
 # check_installed COMPONENTS OPTION...: installing with the OPTIONs gives the files of COMPONENTS.
 check_installed() {
-  logged "$work/install.log" "$CMAKE" --install "$BUILD" ${CONFIG:+--config "$CONFIG"} \
-    --prefix "$installed" "${@:2}"
+  logged "$work/install.log" env -C "$work" "$CMAKE" --install "$BUILD" --prefix installed \
+    ${CONFIG:+--config "$CONFIG"} "${@:2}"
   diff -u <(installed_files "$1" "$installed" "$LIBDIR" "${CONFIG:-noconfig}" | sort) \
     <(find "$installed" ! -type d -printf '%P\n' | sort) || die "the files differ from files.txt"
 }
@@ -46,8 +47,19 @@ say "the installed files"
 check_installed Runtime --component Runtime
 check_installed 'Runtime|Development'
 cp -a "$installed" "$prefix"
-logged "$work/uninstall.log" "$CMAKE" --build "$BUILD" --target uninstall
-left=$(find "$installed" ! -type d -o -name ZRString -o -name Velmar -o -path '*/auto-load/*')
+DESTDIR=$work/stage logged "$work/install.log" "$CMAKE" --install "$BUILD" --prefix /usr
+# What else was installed from this build folder stays, and so does its record.
+sed -n "\|^$work/|p" "$BUILD/installed.txt" > "$work/installed.txt"
+sed -i "\|^$work/|d" "$BUILD/installed.txt"
+in_the_way=$work/stage/usr/include/ZRString/ZRTypes.h
+rm "$in_the_way"
+mkdir "$in_the_way"
+uninstall=(env -C "$work" "$CMAKE" -P "$top/cmake/Uninstall.cmake")
+! "${uninstall[@]}" > "$work/uninstall.log" 2>&1 || die "a file that stays does not fail uninstalling"
+grep -qxF "    $in_the_way" "$work/uninstall.log" || die "$work/uninstall.log: no file named"
+rmdir "$in_the_way"
+logged "$work/uninstall.log" "${uninstall[@]}"
+left=$(find "$installed" "$work/stage" ! -type d -o -name ZRString -o -name Velmar -o -path '*/auto-load/*')
 [ -z "$left" ] || die "uninstalling left $left"
 ! readelf -d "$prefix/$LIBDIR/libZRString.so" | grep -E '\(R(UN)?PATH' || die "a search path is set"
 ! grep -rF "$BUILD" "$prefix/$LIBDIR"/{cmake,pkgconfig} || die "these name the build folder"
@@ -84,7 +96,7 @@ done
 
 say "as part of another project"
 logged "$work/parent.log" "$CMAKE" -S "$tests/parent" -B "$work/parent" -DBUILD_SHARED_LIBS=OFF \
-  -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents"
+  -DCMAKE_C_COMPILER="$CC" -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents"
 [ "$(grep -c BUILD_SHARED_LIBS=OFF "$work/parent.log")" = 1 ] || die "$work/parent.log: one answer"
 logged "$work/parent-install.log" "$CMAKE" --install "$work/parent"
 [ ! -e "$work/parents" ] || die "ZRString installs itself with another project"
