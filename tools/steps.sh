@@ -10,16 +10,49 @@ die() {
   exit 1
 }
 
+# check_build_folder FOLDER SOURCES: stops if CMake configured FOLDER for sources that are not SOURCES.
+check_build_folder() {
+  local sources
+  sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$1/CMakeCache.txt" 2> /dev/null || true)
+  [ -z "$sources" ] || [ "$sources" -ef "$2" ] ||
+    die "$1 was made when the sources were in $sources. Remove it: rm -r '$1'"
+}
+
+# show_ninja LOG: shows, until it is killed, the counter that ninja writes to LOG: at once on a
+# terminal, and otherwise every 20 seconds.
+show_ninja() {
+  local line shown='' next=$((SECONDS + 20))
+  # sleep may outlive this function for a moment: it must not hold the script's output.
+  while sleep 0.5 &> /dev/null && kill -0 $$; do
+    [ -t 1 ] || [ "$SECONDS" -ge "$next" ] || continue
+    line=$(tail -c 9999 "$1" | grep -aE '^\[[0-9]+/[0-9]+\] ' | tail -n 1) || continue
+    [ "$line" != "$shown" ] || continue
+    shown=$line
+    if [ -t 1 ]; then
+      printf '\r\e[K%.78s' "$line"
+    else
+      next=$((SECONDS + 20))
+      say "${line%%] *}]"
+    fi
+  done 2> /dev/null
+}
+
 # logged LOG COMMAND...: runs COMMAND with its output in LOG. If it fails, prints the end of LOG and
 # stops. COMMAND may be a function: the subshell has a `set -e` that no surrounding condition undoes.
 logged() {
-  local log=$1 status
+  local log=$1 status progress
   shift
-  mkdir -p "$(dirname "$log")"
+  { mkdir -p "$(dirname "$log")" && : > "$log"; } 2> /dev/null ||
+    die "cannot write $log: its folder is read-only or belongs to another user"
+  show_ninja "$log" &
+  progress=$!
   set +e
   (set -e; "$@") > "$log" 2>&1 < /dev/null
   status=$?
+  kill "$progress"
+  wait "$progress" 2> /dev/null
   set -e
+  [ ! -t 1 ] || printf '\r\e[K'
   [ "$status" -eq 0 ] || {
     tail -n 50 "$log" >&2
     die "exit status $status from: $* (output in $log)"
