@@ -8,6 +8,10 @@ set_target_properties(ZRString PROPERTIES PREFIX "")
 target_compile_options(ZRString PRIVATE
   "$<$<CXX_COMPILER_ID:GNU>:SHELL:-include typeinfo>")
 include(CheckLinkerFlag)
+# The same sources give the same DLL, whenever it is linked.
+check_linker_flag(CXX LINKER:--no-insert-timestamp ZRSTRING_LINKER_HAS_NO_TIMESTAMP)
+target_link_options(ZRString PRIVATE
+  $<$<BOOL:${ZRSTRING_LINKER_HAS_NO_TIMESTAMP}>:LINKER:--no-insert-timestamp>)
 set(zrstring_exports LINKER:--version-script=${PROJECT_SOURCE_DIR}/platform/Pe.map)
 check_linker_flag(CXX ${zrstring_exports} ZRSTRING_LINKER_HAS_VERSION_SCRIPTS)
 if(ZRSTRING_LINKER_HAS_VERSION_SCRIPTS)

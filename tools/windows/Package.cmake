@@ -1,5 +1,6 @@
-# The package for Windows, which `cpack` makes: a ZIP archive with the library and all that it
-# loads. The DLLs lie beside the programs in the build folder too, so that these can be run.
+# What tools/windows/make-packages packs besides the library and its headers: the DLLs that it loads,
+# with their licences, the import library for Microsoft's linker, and README.txt. The DLLs lie beside
+# the programs in the build folder too, so that these can be run.
 find_program(ZRSTRING_DLLTOOL llvm-dlltool REQUIRED)
 math(EXPR bits "${CMAKE_SIZEOF_VOID_P} * 8")
 if(bits EQUAL 32)
@@ -28,7 +29,7 @@ foreach(dll ${dlls})
   cmake_path(GET dll FILENAME name)
   set(stripped ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${name})
   add_custom_command(OUTPUT ${stripped}
-    COMMAND ${CMAKE_STRIP} -o ${stripped} ${dll} DEPENDS ${dll} VERBATIM)
+    COMMAND ${CMAKE_STRIP} --preserve-dates -o ${stripped} ${dll} DEPENDS ${dll} VERBATIM)
   list(APPEND stripped_dlls ${stripped})
 endforeach()
 add_custom_target(zrstring-dlls DEPENDS ${stripped_dlls})
@@ -47,21 +48,33 @@ add_custom_command(TARGET ZRString POST_BUILD
   BYPRODUCTS ${exports} ${def} ${lib} VERBATIM)
 install(FILES ${def} ${lib} DESTINATION lib COMPONENT Development)
 
-set(CPACK_GENERATOR ZIP)
-set(CPACK_PACKAGE_NAME zrstring)
-set(CPACK_PACKAGE_FILE_NAME zrstring-${PROJECT_VERSION}-win${bits})
-set(CPACK_STRIP_FILES ON)
+# What README.txt names: Debian's MinGW calls itself version 12, without the rest. `dll` is now the
+# last one, GCC's.
+string(REPLACE _ - gcc_package g++-mingw-w64-${CMAKE_SYSTEM_PROCESSOR}-posix)
+execute_process(COMMAND dpkg-query -W -f \${Version} ${gcc_package}
+  OUTPUT_VARIABLE gcc_version COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCH "^[0-9]+[.][0-9.]+[0-9]" gcc_version "${gcc_version}")
+execute_process(COMMAND ${CMAKE_OBJDUMP} -p ${dll}
+  OUTPUT_VARIABLE imports COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCH "msvcrt|ucrtbase|api-ms-win-crt" c_runtime "${imports}")
 configure_file(${CMAKE_CURRENT_LIST_DIR}/README.txt.in README.txt @ONLY NEWLINE_STYLE WIN32)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/README.txt DESTINATION . COMPONENT Runtime)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/languages/csharp
   DESTINATION examples COMPONENT Development)
+
 install(FILES ${icu}/share/icu/${ICU_VERSION}/LICENSE
   DESTINATION licenses RENAME icu.txt COMPONENT Runtime)
-install(FILES /usr/share/doc/gcc-mingw-w64-base/copyright
-  DESTINATION licenses RENAME gcc-runtime.txt COMPONENT Runtime)
-install(FILES /usr/share/doc/mingw-w64-common/copyright
-  DESTINATION licenses RENAME winpthreads.txt COMPONENT Runtime)
-install(FILES /usr/share/common-licenses/GPL-3
-  DESTINATION licenses RENAME gpl-3.txt COMPONENT Runtime)
-
-include(CPack)
+set(gcc_notice /usr/share/doc/gcc-mingw-w64-base/copyright)
+set(winpthreads_notice /usr/share/doc/mingw-w64-common/copyright)
+install(FILES ${gcc_notice} DESTINATION licenses RENAME gcc-runtime.txt COMPONENT Runtime)
+install(FILES ${winpthreads_notice} DESTINATION licenses RENAME winpthreads.txt COMPONENT Runtime)
+# The texts that these two refer to.
+foreach(notice ${gcc_notice} ${winpthreads_notice})
+  file(STRINGS ${notice} lines REGEX /usr/share/common-licenses/)
+  string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z]+(-[0-9]+([.][0-9]+)?)?" texts "${lines}")
+  foreach(text IN LISTS texts)
+    cmake_path(GET text FILENAME name)
+    file(REAL_PATH ${text} text)
+    install(FILES ${text} DESTINATION licenses/common-licenses RENAME ${name}.txt COMPONENT Runtime)
+  endforeach()
+endforeach()
