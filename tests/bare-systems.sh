@@ -25,6 +25,8 @@ check_install() {
     ./program | diff readme.txt -
     c++ -std=c++17 readme.cpp $(pkg-config --cflags --libs zrstring) -o program
     ./program | diff readme.txt -
+    apt-get install --no-install-recommends devscripts
+    hardening-check --nopie --nofortify --nocfprotection /usr/local/lib/libZRString.so.1
     cmake --build build/install --target uninstall
     [ -z "$(find /usr/local -name "*ZRString*")" ]'
 }
