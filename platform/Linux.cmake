@@ -24,9 +24,9 @@ else()
     "of the C++ standard library too, and its names will have no version.")
 endif()
 
-# The stack protector guards the code that reads records and writes output. Elsewhere it would cost
-# instructions in most functions that it reaches: in string/, 4 to 20 in eight calls.
-# _FORTIFY_SOURCE needs optimization; where the compiler or its user has set it, their choice holds.
+# The stack protector guards the code that reads records and writes output; in string/ it would cost
+# 4 to 20 instructions in eight calls, and -fcf-protection would cost one or more in every call.
+# _FORTIFY_SOURCE needs optimization. If the compiler or the user has set it, that stays.
 option(ZRSTRING_HARDENING "Harden the library where that costs no instructions" ON)
 if(ZRSTRING_HARDENING)
   include(CheckCXXCompilerFlag)

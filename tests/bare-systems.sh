@@ -49,12 +49,18 @@ add_packages() {
 
 check_packages() {
   set -x
-  local maker=$bare-maker user=$bare-user runner=$bare-runner root packages multiarch
+  local maker=$bare-maker user=$bare-user runner=$bare-runner root package packages multiarch
   for root in "$maker" "$user" "$runner"; do cp -a "$bare" "$root"; done
   copy_project "$maker/project"
   in_debian "$maker" /project/tools/debian/make-packages
   packages=$maker/project/build/packages
   multiarch=$(in_debian "$maker" dpkg-architecture -qDEB_HOST_MULTIARCH)
+
+  # They are the same if they are made in another folder and on another day.
+  copy_project "$maker/elsewhere/project"
+  in_debian "$maker" apt-get -q install -y faketime
+  in_debian "$maker" faketime -f +3d /elsewhere/project/tools/debian/make-packages
+  for package in "$packages"/*.deb; do cmp "$package" "${package/project/elsewhere/project}"; done
   check_files libzrstring1 Runtime
   check_files libzrstring-dev Development
   dpkg-deb -f "$packages"/libzrstring1_*.deb Depends | grep -E 'libicu[0-9]+ .*libstdc\+\+6'
