@@ -49,11 +49,9 @@ check_installed 'Runtime|Development'
 cp -a "$installed" "$prefix"
 DESTDIR=$work/stage logged "$work/install.log" "$CMAKE" --install "$BUILD" --prefix /usr
 # What else was installed from this build folder stays, and so does its record.
-sed -n "\|^$work/|p" "$BUILD/installed.txt" > "$work/installed.txt"
-sed -i "\|^$work/|d" "$BUILD/installed.txt"
+sed -i -e "\|^$work/|w $work/installed.txt" -e "\|^$work/|d" "$BUILD/installed.txt"
 in_the_way=$work/stage/usr/include/ZRString/ZRTypes.h
-rm "$in_the_way"
-mkdir "$in_the_way"
+rm "$in_the_way" && mkdir "$in_the_way"
 uninstall=(env -C "$work" "$CMAKE" -P "$top/cmake/Uninstall.cmake")
 ! "${uninstall[@]}" > "$work/uninstall.log" 2>&1 || die "a file that stays does not fail uninstalling"
 grep -qxF "    $in_the_way" "$work/uninstall.log" || die "$work/uninstall.log: no file named"
