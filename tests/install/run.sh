@@ -1,9 +1,8 @@
 #!/usr/bin/env bash
-# Installs a build of ZRString, copies the installed tree elsewhere and uninstalls it, also from a
-# second folder and after a file that cannot be removed. Compares the installed files with files.txt.
-# With the copy, builds and runs a C++ project through find_package and, through pkg-config, the
-# programs of the README, the pages and the headers; and compiles every public header alone. Makes the
-# sources part of another project.
+# Installs a build of ZRString, copies the installed tree elsewhere and uninstalls all. Compares the
+# installed files with files.txt. With the copy, builds and runs a C++ project through find_package
+# and, through pkg-config, the programs of the README, the pages and the headers; and compiles every
+# public header alone. Makes the sources part of another project.
 # ctest sets BUILD, the build folder; CONFIG, its build type; LIBDIR, its folder of libraries below
 # the prefix; CMAKE, CC, CXX and CXXFLAGS.
 # shellcheck disable=SC2046,SC2206 # what is not quoted holds several options
