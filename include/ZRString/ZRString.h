@@ -9,9 +9,9 @@ class ZRStringMutator;
 
 /// @def ZR_INLINE
 /// Marks members that programs compile inline, so that copying a string takes no call. The library
-/// compiles them as functions, in string/Copying.cpp, and exports them.
+/// exports them as functions, too.
 #if defined(ZRString_EXPORTS)
-#define ZR_INLINE
+#define ZR_INLINE inline __attribute__((used))
 #else
 #define ZR_INLINE inline
 #endif
@@ -309,8 +309,6 @@ ZR_API const ZRString& ZR_CALL GetZRStringFromRef(ZRStringRef__* handle);
 ///         written only with 0.
 ZR_API ZRLong ZR_CALL ZRStringRefToZRString(ZRStringRef__* handle, ZRString** result);
 
-#if !defined(ZRString_EXPORTS) || defined(ZR_COMPILE_INLINE_MEMBERS)
-
 ZR_INLINE ZRString::ZRString(const ZRString& source) noexcept : body_(source.body_->TakeShare()) {}
 
 ZR_INLINE ZRString::~ZRString() {
@@ -326,7 +324,5 @@ ZR_INLINE const ZRString& ZRString::operator=(const ZRString& other) noexcept {
   }
   return *this;
 }
-
-#endif
 
 #endif

@@ -246,8 +246,6 @@ ZR_API ZRStringMutator ZR_CALL operator+(unsigned short unit, const ZRString& ri
 /// The mutable string that a handle stands for. `handle` must not be null.
 ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
 
-#if !defined(ZRString_EXPORTS) || defined(ZR_COMPILE_INLINE_MEMBERS)
-
 ZR_INLINE ZRStringMutator::ZRStringMutator(const ZRString& source) noexcept : ZRString(source) {}
 
 ZR_INLINE ZRStringMutator::ZRStringMutator(const ZRStringMutator& source) noexcept
@@ -264,7 +262,5 @@ ZR_INLINE ZRStringMutator& ZRStringMutator::operator=(const ZRString& other) noe
   ZRString::operator=(other);
   return *this;
 }
-
-#endif
 
 #endif
