@@ -5,7 +5,6 @@
 #include <new>
 
 #include "handles/Parameters.h"
-#include "string/CodeUnits.h"
 
 ZRLong ZRMutableStringCreateEmpty(ZRMutableStringRef__** out) {
   if (const ZRLong status = FirstInvalid(NotNull(out)))
@@ -238,8 +237,6 @@ ZRLong ZRMutableStringAddStrings(ZRStringRef__* first, ZRStringRef__* second,
                                  ZRMutableStringRef__** out) {
   if (const ZRLong status = FirstInvalid(NotNull(first), NotNull(second), NotNull(out)))
     return status;
-  if (StringOf(first).GetLength() > kMaxLength - StringOf(second).GetLength())
-    throw std::bad_alloc();
   auto sum = std::make_unique<ZRStringMutator>();
   *sum += StringOf(first);
   *sum += StringOf(second);
