@@ -4,6 +4,7 @@
 #include <ZRString/ZRStringOutput.h>
 #include <ZRString/ZRStringPtrArray.h>
 #include <ZRString/ZRStringStream.h>
+#include <ZRString/ZRStringUtf8.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -57,7 +58,8 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
                   out = {W(written.data()), {0}}, any = {W(-7), {}},
                   notNegative = {W(0), {W(-1), W(-2), W(INT_MIN)}},
                   toEnd = {W(-1), {W(-2), W(INT_MIN)}}, count = {W(1), {W(0), W(-1), W(INT_MIN)}},
-                  index = {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, kZRStatusIndexOutside};
+                  index = {W(0), {W(-1), W(1), W(INT_MIN), W(INT_MAX)}, kZRStatusIndexOutside},
+                  utf8 = {W("abc"), {0}}, size = {W(3), {}};
   const struct {
     std::string name;  // of the plain function
     Function plain, member;
@@ -66,6 +68,15 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
 #define ZR_ROW(function, member, ...) \
   {#function, Erased(&::function), Erased(&member), {__VA_ARGS__}},
 #include "HandleRows.inc"
+#define ZR_UTF8_ROW(function, ...) ZR_ROW(function, function, __VA_ARGS__)
+      // clang-format off
+      ZR_UTF8_ROW(ZRStringCreateFromUtf8, utf8, size, out)
+      ZR_UTF8_ROW(ZRMutableStringCreateFromUtf8, utf8, size, out)
+      ZR_UTF8_ROW(ZRMutableStringAppendUtf8, mutableString, utf8, size)
+      ZR_UTF8_ROW(ZRStringGetUtf8Size, string, out)
+      ZR_UTF8_ROW(ZRStringExtractIntoUtf8, string, out, size, out)
+      ZR_UTF8_ROW(ZRStringAllocateUtf8, string, out, any)
+      // clang-format on
   };
   std::ifstream exports(ZRSTRING_PLAIN_EXPORTS);
   std::set<std::string> untested(std::istream_iterator<std::string>(exports), {});

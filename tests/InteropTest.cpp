@@ -1,9 +1,14 @@
-// Compares the conversions of ZRStringInterop.h with ICU's; uses strings with the standard library.
+// Compares the conversions of ZRStringInterop.h and ZRStringUtf8.h with ICU's; uses strings with
+// the standard library.
 #include <ZRString/ZRStringInterop.h>
+#include <ZRString/ZRStringUtf8.h>
 #include <gtest/gtest.h>
 #include <unicode/unistr.h>
 
+#include <cstdlib>
+#include <cstring>
 #include <iomanip>
+#include <memory>
 #include <numeric>
 #include <set>
 #include <sstream>
@@ -14,26 +19,60 @@ using namespace std::string_literals;
 
 namespace {
 
-// The texts are converted from memory of exactly their size, so that a sanitizer sees reads past
-// the end.
+/// A copy of a text at the end of its memory, so that a sanitizer sees reads past the end, and with
+/// a beginning that is not aligned.
+template <typename Text>
+struct Exact {
+  explicit Exact(const Text& text) : memory(1 + text.size() % 7), size(text.size()) {
+    memory.insert(memory.end(), text.begin(), text.end());
+    memory.shrink_to_fit();
+  }
+  const auto* Data() const { return memory.data() + memory.size() - size; }
 
-/// Whether the text of `bytes` is ICU's, without much room to grow.
+  std::vector<typename Text::value_type> memory;
+  std::size_t size;
+};
+
+/// Whether the text of `bytes` is ICU's, without much room to grow, also from C, at once and after
+/// another.
 bool SameAsIcu(const std::string& bytes) {
-  const std::vector<char> exact(bytes.begin(), bytes.end());
-  const ZRStringMutator string(FromUtf8({exact.data(), exact.size()}));
-  const auto text = icu::UnicodeString::fromUTF8(bytes);
-  return Utf16View(string) == std::u16string_view(text.getBuffer(), text.length()) &&
-         string.GetCapacity() <= text.length() * 5 / 4 + 32;
+  const Exact exact(bytes);
+  const auto expected = icu::UnicodeString::fromUTF8(bytes);
+  const std::u16string_view units(expected.getBuffer(), expected.length());
+  const auto matches = [&](const ZRStringMutator& string) {
+    return Utf16View(string) == units && string.GetCapacity() <= expected.length() * 5 / 4 + 32;
+  };
+  ZRMutableStringRef__* handle = nullptr;
+  if (ZRMutableStringCreateFromUtf8(exact.Data(), exact.size, &handle) != kZRStatusSuccess)
+    return false;
+  const std::unique_ptr<ZRStringMutator> string(&GetZRStringMutatorFromRef(handle));
+  return matches(FromUtf8({exact.Data(), exact.size})) && matches(*string) &&
+         ZRMutableStringAppendUtf8(handle, exact.Data(), exact.size) == kZRStatusSuccess &&
+         Utf16View(*string) == std::u16string(units).append(units);
+}
+
+/// Whether C functions give `utf8` for a string; the buffer has no byte more than is needed.
+bool GivesUtf8(const ZRString& string, const std::string& utf8) {
+  std::size_t sizes[3] = {};
+  std::vector<char> buffer(utf8.size() + 1, 'x');
+  char* text = nullptr;
+  ZRStringGetUtf8Size(string.GetZRStringRef(), &sizes[0]);
+  ZRStringExtractIntoUtf8(string.GetZRStringRef(), buffer.data(), buffer.size(), &sizes[1]);
+  ZRStringAllocateUtf8(string.GetZRStringRef(), &text, &sizes[2]);
+  const std::unique_ptr<char, decltype(&std::free)> allocated(text, std::free);
+  return sizes[0] == utf8.size() && sizes[1] == utf8.size() && sizes[2] == utf8.size() &&
+         std::memcmp(buffer.data(), utf8.c_str(), buffer.size()) == 0 &&
+         std::memcmp(text, utf8.c_str(), buffer.size()) == 0;
 }
 
 /// Whether the UTF-8 of `units` is ICU's, without much room to grow, and converts as ICU does it.
 bool SameAsIcu(const std::u16string& units) {
-  const std::vector<char16_t> exact(units.begin(), units.end());
-  const std::string bytes = ToUtf8({exact.data(), exact.size()});
+  const Exact exact(units);
+  const std::string bytes = ToUtf8({exact.Data(), exact.size});
   std::string expected;
-  icu::UnicodeString(exact.data(), static_cast<std::int32_t>(exact.size())).toUTF8String(expected);
+  icu::UnicodeString(units.data(), static_cast<std::int32_t>(units.size())).toUTF8String(expected);
   return bytes == expected && bytes.capacity() <= bytes.size() * 5 / 4 + 16 &&
-         ToUtf8(FromUtf16(units)) == expected && SameAsIcu(expected);
+         GivesUtf8(FromUtf16(units), expected) && SameAsIcu(expected);
 }
 
 /// Calls `visit` with every sequence of up to `length` elements.
@@ -47,7 +86,7 @@ void ForEachSequence(const Text& elements, int length, Visit visit, const Text& 
 }  // namespace
 
 TEST(Interop, EveryCodePointAndUnpairedSurrogate) {
-  // Up to 40 letters before each character, so that it comes inside and after blocks of ASCII.
+  // Up to 40 letters before each character, so that it comes at each place of a block of ASCII.
   icu::UnicodeString text;
   for (UChar32 c = 0; c <= 0x10FFFF; ++c) {
     text.padTrailing(text.length() + c % 41, u'a');
@@ -90,8 +129,36 @@ TEST(Interop, EveryPlaceAndLength) {
 
 TEST(Interop, TextsThatAreTooLongAreRefused) {
   constexpr std::size_t kTooLong = std::size_t{1} << 31;
-  EXPECT_THROW(FromUtf8({"", kTooLong}), std::length_error);
   EXPECT_THROW(FromUtf16({u"", kTooLong}), std::length_error);
+  EXPECT_THROW(ToUtf8({u"", kTooLong}), std::length_error);
+}
+
+TEST(Interop, ShortBuffersGetWholeCharactersAndAZeroByte) {
+  const std::string utf8 = "a\0\u00E9\u4E2D\U0001F600z\uFFFD"s;
+  const ZRString string = u"a\0\u00E9\u4E2D\U0001F600z\xD800"_zr;
+  for (std::size_t capacity = 0; capacity <= utf8.size() + 2; ++capacity) {
+    std::vector<char> buffer(capacity, 'x');
+    std::size_t size = 0, fits = std::min(capacity, utf8.size() + 1);
+    EXPECT_EQ(ZRStringExtractIntoUtf8(string.GetZRStringRef(), buffer.data(), capacity, &size), 0);
+    EXPECT_EQ(size, utf8.size());
+    while (fits > 0 && (utf8.c_str()[--fits] & 0xC0) == 0x80)
+      continue;
+    std::string expected = utf8.substr(0, fits) + std::string(1, '\0');
+    expected.resize(capacity, 'x');
+    EXPECT_EQ(std::string(buffer.data(), capacity), expected);
+  }
+}
+
+TEST(Interop, TextsWithoutSizeEndAtTheirZeroByteAndLostTextsAreReported) {
+  ZRStringRef__* first = nullptr;
+  EXPECT_EQ(ZRStringCreateFromUtf8("\u00E9\0b", ZR_TO_ZERO_BYTE, &first), kZRStatusSuccess);
+  const std::unique_ptr<const ZRString> string(&GetZRStringFromRef(first));
+  ZRStringMutator open(*string);
+  ZRMutableStringAppendUtf8(open.GetZRMutableStringRef(), "z\0b", ZR_TO_ZERO_BYTE);
+  EXPECT_EQ(ToUtf8(*string) + ToUtf8(open), "\u00E9\u00E9z");
+  open.GetBuffer(-1);
+  EXPECT_EQ(ZRMutableStringAppendUtf8(open.GetZRMutableStringRef(), "a", 1), kZRStatusTextLost);
+  EXPECT_TRUE(GivesUtf8(open, ""));
 }
 
 TEST(Interop, ViewsAndLiterals) {

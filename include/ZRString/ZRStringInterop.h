@@ -8,6 +8,7 @@
 #else
 
 #include <ZRString/ZRStringMutator.h>
+#include <ZRString/ZRStringUtf8.h>
 
 #include <climits>
 #include <cstddef>
@@ -42,9 +43,9 @@
 /// **Open buffers and the error state.** A string with an open writable buffer, or in ICU's error
 /// state, reads as empty.
 ///
-/// **Errors.** A text of 2^31 or more units or bytes throws `std::length_error`. If memory runs
-/// out, ICU's included, the functions throw `std::bad_alloc`. The header does not compile without
-/// exceptions.
+/// **Errors.** A text of 2^31 or more units throws `std::length_error`, given as UTF-8, too. UTF-8
+/// may have any number of bytes. If memory runs out, ICU's included, or if ICU cannot hold a text
+/// so long, the functions throw `std::bad_alloc`. The header does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -54,8 +55,6 @@
 
 /// @cond
 namespace ZRStringInteropDetail {
-
-constexpr std::uint32_t kReplacement = 0xFFFD;
 
 constexpr bool IsLead(std::uint32_t unit) { return (unit & 0xFC00) == 0xD800; }
 constexpr bool IsTrail(std::uint32_t unit) { return (unit & 0xFC00) == 0xDC00; }
@@ -70,148 +69,16 @@ To* UnitsAs(From* units) {
 
 inline ZRLong Length(std::size_t size) {
   if (size > INT32_MAX)
-    throw std::length_error("ZRString: a text of 2^31 units or bytes, or more");
+    throw std::length_error("ZRString: a text of 2^31 units or more");
   return static_cast<ZRLong>(size);
 }
 
-// ASCII is converted in blocks of this many characters, for which compilers use vector
-// instructions.
-constexpr std::ptrdiff_t kBlock = 8;
-
-// Texts of up to this many units or bytes are converted on the stack.
-constexpr ZRLong kOnStack = 256;
-
-// ICU stores texts of this length inside the body, whatever room they are given.
-constexpr ZRLong kShort = 24;
-
-inline bool WidenBlock(const char* bytes, unsigned short* units) {
-  unsigned char block[kBlock];
-  std::uint64_t together;
-  std::memcpy(block, bytes, sizeof block);
-  std::memcpy(&together, bytes, sizeof together);
-  if (together & 0x8080808080808080)
-    return false;
-  for (std::ptrdiff_t i = 0; i < kBlock; ++i)
-    units[i] = block[i];
-  return true;
-}
-
-inline bool NarrowBlock(const char16_t* units, char* bytes) {
-  char16_t block[kBlock];
-  std::uint64_t halves[2];
-  std::memcpy(block, units, sizeof block);
-  std::memcpy(halves, units, sizeof halves);
-  if ((halves[0] | halves[1]) & 0xFF80FF80FF80FF80)
-    return false;
-  for (std::ptrdiff_t i = 0; i < kBlock; ++i)
-    bytes[i] = static_cast<char>(block[i]);
-  return true;
-}
-
-/// Reads the code point at `*next`, which is not ASCII, and moves `*next` behind it. If it is
-/// ill-formed, moves `*next` behind its maximal subpart and returns U+FFFD.
-inline std::uint32_t Decode(const char** next, const char* end) {
-  const auto lead = static_cast<unsigned char>(*(*next)++);
-  const int trails = lead < 0xC2 || lead > 0xF4 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-  if (trails == 0)
-    return kReplacement;
-  // The range of the second byte excludes overlong forms, surrogates and what is above U+10FFFF.
-  unsigned least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-  unsigned greatest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-  std::uint32_t codePoint = lead & (0x3Fu >> trails);
-  for (int i = 0; i < trails; ++i) {
-    const unsigned trail = *next == end ? 0 : static_cast<unsigned char>(**next);
-    if (trail < least || trail > greatest)
-      return kReplacement;
-    codePoint = codePoint << 6 | (trail & 0x3F);
-    least = 0x80;
-    greatest = 0xBF;
-    ++*next;
-  }
-  return codePoint;
-}
-
-/// Writes `text` as UTF-16, at most one unit per byte, and returns the number of units.
-inline ZRLong Utf16FromUtf8(std::string_view text, unsigned short* units) {
-  unsigned short* to = units;
-  const char* next = text.data();
-  const char* const end = next + text.size();
-  const auto byte = [&](int i) { return static_cast<unsigned char>(next[i]); };
-  const auto put = [&](std::uint32_t unit) { *to++ = static_cast<unsigned short>(unit); };
-  while (next != end) {
-    for (; end - next >= kBlock && WidenBlock(next, to); next += kBlock)
-      to += kBlock;
-    for (; next != end && byte(0) < 0x80; ++next)
-      put(byte(0));
-    while (next != end && byte(0) >= 0x80) {
-      // Two and three bytes, unless the second one's range depends on the first.
-      if (end - next >= 3 && (byte(1) & 0xC0) == 0x80) {
-        const std::uint32_t lead = byte(0);
-        if (lead >= 0xC2 && lead < 0xE0) {
-          put((lead & 0x1F) << 6 | (byte(1) & 0x3F));
-          next += 2;
-          continue;
-        }
-        if (lead > 0xE0 && lead < 0xF0 && lead != 0xED && (byte(2) & 0xC0) == 0x80) {
-          put((lead & 0x0F) << 12 | (byte(1) & 0x3F) << 6 | (byte(2) & 0x3F));
-          next += 3;
-          continue;
-        }
-      }
-      const char* behind = next;
-      const std::uint32_t codePoint = Decode(&behind, end);
-      next = behind;
-      if (codePoint > 0xFFFF) {
-        put(0xD7C0 + (codePoint >> 10));
-        put(0xDC00 | (codePoint & 0x3FF));
-      } else {
-        put(codePoint);
-      }
-    }
-  }
-  return static_cast<ZRLong>(to - units);
-}
-
-/// Writes the units from `*next` up to `limit` as UTF-8, at most three bytes per unit, and returns
-/// the number of bytes. If `limit` splits a surrogate pair, the whole pair is written. Moves
-/// `*next` behind the last unit written.
-inline std::size_t Utf8FromUtf16(const char16_t** next, const char16_t* limit, const char16_t* end,
-                                 char* bytes) {
-  const char16_t* from = *next;
-  char* to = bytes;
-  const auto put = [&](std::uint32_t byte) { *to++ = static_cast<char>(byte); };
-  while (from < limit) {
-    for (; limit - from >= kBlock && NarrowBlock(from, to); from += kBlock)
-      to += kBlock;
-    for (; from < limit && *from < 0x80; ++from)
-      put(*from);
-    while (from < limit && *from >= 0x80) {
-      std::uint32_t codePoint = *from++;
-      if (codePoint < 0x800) {
-        put(0xC0 | codePoint >> 6);
-        put(0x80 | (codePoint & 0x3F));
-        continue;
-      }
-      if (IsLead(codePoint) && from != end && IsTrail(*from)) {
-        codePoint = 0x10000 + ((codePoint & 0x3FF) << 10) + (*from++ & 0x3FF);
-        put(0xF0 | codePoint >> 18);
-        put(0x80 | (codePoint >> 12 & 0x3F));
-      } else {
-        if (IsLead(codePoint) || IsTrail(codePoint))
-          codePoint = kReplacement;
-        put(0xE0 | codePoint >> 12);
-      }
-      put(0x80 | (codePoint >> 6 & 0x3F));
-      put(0x80 | (codePoint & 0x3F));
-    }
-  }
-  *next = from;
-  return static_cast<std::size_t>(to - bytes);
-}
+// A text of more bytes than this is measured before it gets storage.
+constexpr std::size_t kMaybeTooLong = 0x40000000;
 
 /// A string without room to grow, which the constructors would leave.
 inline ZRString Exact(const unsigned short* units, ZRLong length) {
-  if (length <= kShort)
+  if (length <= kZRUtf8Short)
     return ZRString(units, length);
   ZRStringMutator string;
   unsigned short* const buffer = string.GetBuffer(length);
@@ -250,18 +117,24 @@ inline ZRString operator""_zr(const char16_t* text, std::size_t size) {
 
 /// A string of text in UTF-8.
 inline ZRString FromUtf8(std::string_view text) {
-  const ZRLong size = ZRStringInteropDetail::Length(text.size());
-  if (size <= ZRStringInteropDetail::kOnStack) {
-    unsigned short units[ZRStringInteropDetail::kOnStack];
-    return ZRStringInteropDetail::Exact(units, ZRStringInteropDetail::Utf16FromUtf8(text, units));
+  const auto* next = reinterpret_cast<const unsigned char*>(text.data());
+  const unsigned char* const end = next + text.size();
+  if (text.size() <= kZRUtf8Chunk) {
+    unsigned short units[kZRUtf8Chunk];
+    const std::size_t length = ZRUtf8Decode(&next, end, end, units);
+    return ZRStringInteropDetail::Exact(units, static_cast<ZRLong>(length));
   }
+  const ZRLong room =
+      text.size() <= ZRStringInteropDetail::kMaybeTooLong
+          ? static_cast<ZRLong>(text.size())
+          : ZRUtf8Room(text.size(), ZRStringInteropDetail::Length(ZRUtf8CountUnits(next, end)));
   ZRStringMutator string;
-  unsigned short* const units = string.GetBuffer(size);
+  unsigned short* const units = string.GetBuffer(room);
   if (!units)
     throw std::bad_alloc();
-  const ZRLong length = ZRStringInteropDetail::Utf16FromUtf8(text, units);
+  const auto length = static_cast<ZRLong>(ZRUtf8Decode(&next, end, end, units));
   string.ReleaseBuffer(length);
-  if (size - length <= length / 4)
+  if (room - length <= length / 4)
     return string;
   return ZRStringInteropDetail::Exact(string.GetBuffer(), length);
 }
@@ -275,17 +148,18 @@ inline ZRString FromUtf8(std::u8string_view text) {
 
 /// `text` as UTF-8.
 inline std::string ToUtf8(std::u16string_view text) {
-  constexpr std::size_t kChunk = ZRStringInteropDetail::kOnStack;
+  constexpr std::size_t kChunk = 1024;
   char chunk[3 * kChunk + 1];
-  const char16_t* next = text.data();
-  const char16_t* const end = next + text.size();
-  if (text.size() <= kChunk)
-    return std::string(chunk, ZRStringInteropDetail::Utf8FromUtf16(&next, end, end, chunk));
+  std::size_t rest = static_cast<std::size_t>(ZRStringInteropDetail::Length(text.size()));
+  const auto* next = ZRStringInteropDetail::UnitsAs<const ZRUtf8Unit>(text.data());
+  const ZRUtf8Unit* const end = next + rest;
+  if (rest <= kChunk)
+    return std::string(chunk, ZRUtf8Encode(&next, end, end, chunk));
   std::string bytes;
-  bytes.reserve(text.size());
-  for (std::size_t rest = text.size(); rest > 0;) {
-    const char16_t* const limit = next + (rest < kChunk ? rest : kChunk);
-    const std::size_t size = ZRStringInteropDetail::Utf8FromUtf16(&next, limit, end, chunk);
+  bytes.reserve(rest);
+  while (rest > 0) {
+    const std::size_t size =
+        ZRUtf8Encode(&next, next + (rest < kChunk ? rest : kChunk), end, chunk);
     rest = static_cast<std::size_t>(end - next);
     if (bytes.capacity() - bytes.size() < size)
       bytes.reserve(bytes.size() + size + 3 * rest);

@@ -83,9 +83,10 @@ compile c99 -E -P - <<< $'#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING' |
 
 say "the public headers, each alone"
 for header in $(cd "$prefix/include" && find . -name '*.h' -printf '%P\n'); do
-  for standard in c99 c++17 c++20 c++2b; do
-    [[ $standard != c99 || $header =~ /ZR(Types|StringHandles)\.h$ ]] || continue
-    compile $standard -fsyntax-only -MD -MF "$work/included" - <<< "#include <$header>" ||
+  for standard in c99 c11 c2x c++17 c++20 c++2b; do
+    [[ $standard == c++* || $header =~ /ZR(Types|StringHandles|StringUtf8)\.h$ ]] || continue
+    compile $standard -Wconversion -fsyntax-only -MD -MF "$work/included" - \
+      <<< "#include <$header>" ||
       die "$header alone, as $standard"
     ! grep unicode/ "$work/included" || die "$header includes a header of ICU"
   done
