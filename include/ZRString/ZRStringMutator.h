@@ -100,7 +100,9 @@ class ZR_API ZRStringMutator : public ZRString {
   /// past the end. An empty string stays empty.
   ZRStringMutator& SetCharAt(ZRLong offset, unsigned short unit);
 
-  ZRStringMutator& operator+=(unsigned short unit);    ///< Appends a unit.
+  /// Appends a unit. Other integers are cut to 16 bits; there are operators for `char32_t` and
+  /// `char` below, and none for floating types.
+  ZRStringMutator& operator+=(unsigned short unit);
   ZRStringMutator& operator+=(const ZRString& other);  ///< Appends the whole of `other`.
 
   /// Appends a range of `source`.
@@ -245,6 +247,99 @@ ZR_API ZRStringMutator ZR_CALL operator+(unsigned short unit, const ZRString& ri
 
 /// The mutable string that a handle stands for. `handle` must not be null.
 ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* handle);
+
+/// @name Characters and numbers as operands
+/// Without these operators, a `char32_t`, `char` or floating operand would be converted to a unit:
+/// a character above U+FFFF would lose its upper bits. They take exactly these types. Integers,
+/// such as `unit + 1`, are still units.
+/// @{
+
+/// @cond
+namespace ZRStringMutatorDetail {
+
+template <typename Type>
+using IfCharacter =
+    std::enable_if_t<std::is_same_v<Type, char32_t> || std::is_same_v<Type, char>, int>;
+
+template <typename Type>
+using IfFloating = std::enable_if_t<std::is_floating_point_v<Type>, int>;
+
+inline ZRStringMutator& Append(ZRStringMutator& string, char32_t character) {
+  if (character <= 0xFFFF)
+    return string += static_cast<unsigned short>(character);
+  if (character > 0x10FFFF)
+    return string += static_cast<unsigned short>(0xFFFD);
+  const unsigned short pair[] = {static_cast<unsigned short>(0xD7C0 + (character >> 10)),
+                                 static_cast<unsigned short>(0xDC00 | (character & 0x3FF))};
+  return string.Append(pair, 0, 2);
+}
+
+inline ZRStringMutator& Append(ZRStringMutator& string, char character) {
+  // Outside 0x80 to 0x9F, windows-1252 is the beginning of Unicode.
+  const auto byte = static_cast<unsigned char>(character);
+  return byte < 0x80 || byte > 0x9F ? string += static_cast<unsigned short>(byte)
+                                    : string += ZRString(&character, 0, 1);
+}
+
+}  // namespace ZRStringMutatorDetail
+/// @endcond
+
+/// Appends a character: a `char32_t`, of which a value above U+10FFFF becomes U+FFFD and a
+/// surrogate stays one, or a `char`, decoded from windows-1252.
+template <typename Character, ZRStringMutatorDetail::IfCharacter<Character> = 0>
+inline ZRStringMutator& operator+=(ZRStringMutator& left, Character right) {
+  return ZRStringMutatorDetail::Append(left, right);
+}
+
+/// Appends a character to a temporary string.
+template <typename Character, ZRStringMutatorDetail::IfCharacter<Character> = 0>
+inline ZRStringMutator& operator+=(ZRStringMutator&& left, Character right) {
+  return ZRStringMutatorDetail::Append(left, right);
+}
+
+/// `left` followed by a character, as appended by the operator +=.
+template <typename Character, ZRStringMutatorDetail::IfCharacter<Character> = 0>
+inline ZRStringMutator operator+(const ZRString& left, Character right) {
+  ZRStringMutator sum(left);
+  sum += right;
+  return sum;
+}
+
+/// A character, as appended by the operator +=, followed by `right`.
+template <typename Character, ZRStringMutatorDetail::IfCharacter<Character> = 0>
+inline ZRStringMutator operator+(Character left, const ZRString& right) {
+  ZRStringMutator sum;
+  sum += left;
+  sum += right;
+  return sum;
+}
+
+template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
+void operator+=(ZRStringMutator& left, Number right) = delete;  ///< A number is not a unit.
+
+template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
+void operator+=(ZRStringMutator&& left, Number right) = delete;  ///< A number is not a unit.
+
+template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
+void operator+(const ZRString& left, Number right) = delete;  ///< A number is not a unit.
+
+template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
+void operator+(Number left, const ZRString& right) = delete;  ///< A number is not a unit.
+
+/// @}
+
+/// @cond
+// Operators with two strings, or a string and a UTF-16 text, are in ZRStringInterop.h. Without that
+// header, a compiler finds these and names their operand.
+struct IncludeZRStringInteropForThisOperator {
+  IncludeZRStringInteropForThisOperator(const ZRString&);
+  IncludeZRStringInteropForThisOperator(const char16_t*);
+};
+void operator+(const ZRString&, IncludeZRStringInteropForThisOperator) = delete;
+void operator==(const ZRString&, IncludeZRStringInteropForThisOperator) = delete;
+void operator!=(const ZRString&, IncludeZRStringInteropForThisOperator) = delete;
+void operator<(const ZRString&, IncludeZRStringInteropForThisOperator) = delete;
+/// @endcond
 
 ZR_INLINE ZRStringMutator::ZRStringMutator(const ZRString& source) noexcept : ZRString(source) {}
 
