@@ -12,8 +12,11 @@
 #include <numeric>
 #include <set>
 #include <sstream>
+#include <tuple>
 #include <unordered_set>
 #include <vector>
+
+#include "Text.h"
 
 using namespace std::string_literals;
 
@@ -187,6 +190,113 @@ TEST(Interop, KeysOfContainers) {
     });
   });
   EXPECT_EQ(hashes.size(), 1u + 7 + 7 * 7);
+}
+
+TEST(Interop, OperatorsWithTexts) {
+  const auto orders = [](const auto& left, const auto& right) {
+    return std::tuple(left == right, left != right, left<right, left> right, left <= right,
+                      left >= right);
+  };
+  ForEachSequence(u"a\0\xD800"s, 2, [&](const std::u16string& left) {
+    const ZRStringMutator string(FromUtf16(left));
+    ForEachSequence(u"a\0\xD800"s, 2, [&](const std::u16string& right) {
+      const ZRString other = FromUtf16(right), sum = FromUtf16(left + right);
+      const std::u16string_view view = right;
+      EXPECT_EQ(orders(string, right), orders(left, right));
+      EXPECT_EQ(orders(string, view), orders(left, right));
+      EXPECT_EQ(orders(left, other), orders(left, right));
+      EXPECT_EQ(ZRString(string) + other, sum);
+      EXPECT_EQ(string + other, sum);
+      EXPECT_EQ(string + view, sum);
+      EXPECT_EQ(left + other, sum);
+    });
+  });
+}
+
+TEST(Interop, OperatorsWithCharacters) {
+  ZRStringMutator sum;
+  for (char32_t c : {U'a', U'\uFFFF', U'\x10000', U'\x10FFFF', U'\x110000', U'\xDC00'})
+    sum += c;
+  EXPECT_EQ(sum, u"a\uFFFF\U00010000\U0010FFFF\uFFFD\xDC00");
+  const std::string bytes = "\x7F\x80\x9F\xA0\xFF";
+  sum = ZRStringMutator();
+  for (const char c : bytes)
+    (sum + sum) += sum += c;
+  EXPECT_EQ(sum, ZRString(bytes.c_str(), 0, kZRToEnd));
+  const unsigned short unit = 'a';
+  EXPECT_EQ((((sum = u""_zr) += unit + 1) += 65) += u'\uFFFF', u"bA\uFFFF");
+  EXPECT_EQ('\x80' + (U'\x10000' + (u"a"_zr + 'b')) + U'c' + u'd' + 65, u"\u20AC\U00010000abcdA");
+  EXPECT_FALSE((std::is_invocable_v<std::plus<>, ZRString, double>));
+  EXPECT_FALSE((std::is_invocable_v<std::plus<>, float, ZRStringMutator>));
+}
+
+TEST(Interop, Characters) {
+  ForEachSequence(u"a\xD800\xDC00\uFFFF"s, 5, [&](const std::u16string& text) {
+    const ZRString string = FromUtf16(text);
+    const icu::UnicodeString expected(text.data(), text.size());
+    EXPECT_EQ(CodePointCount(string), expected.countChar32());
+    std::u32string forward;
+    for (const char32_t c : CodePoints(FromUtf16(text)))
+      forward += c;
+    const CodePoints characters(text);
+    const std::u32string backward(characters.rbegin(), characters.rend());
+    EXPECT_EQ(forward, std::u32string(backward.rbegin(), backward.rend()));
+    ZRLong index = 0;
+    for (auto c = characters.begin(); c != characters.end();
+         index = expected.moveIndex32(index, 1)) {
+      EXPECT_EQ(c.Index(), index);
+      EXPECT_EQ(*c++, static_cast<char32_t>(expected.char32At(index)));
+    }
+    EXPECT_EQ(forward.size(), expected.countChar32());
+    for (ZRLong i = -1; i <= string.GetLength(); ++i)
+      EXPECT_EQ(CodePointAt(string, i), static_cast<char32_t>(expected.char32At(i)));
+  });
+}
+
+// The parts of a text, joined again, are the text; with another text between them, they are what
+// replacing gives.
+TEST(Interop, ShortForms) {
+  ForEachSequence(u"ab\0"s, 5, [&](const std::u16string& text) {
+    const ZRString string = FromUtf16(text);
+    ForEachSequence(u"ab\0"s, 2, [&](const std::u16string& part) {
+      SCOPED_TRACE(testing::PrintToString(string) + " " + testing::PrintToString(FromUtf16(part)));
+      const std::size_t at = part.empty() ? text.npos : text.find(part, 1);
+      const std::size_t last = text.rfind(part);
+      EXPECT_EQ(IndexOf(text, FromUtf16(part), 1), at == text.npos ? kZRNotFound : ZRLong(at));
+      EXPECT_EQ(Contains(string, part), !part.empty() && text.find(part) != text.npos);
+      EXPECT_EQ(StartsWith(string, part), text.compare(0, part.size(), part) == 0);
+      EXPECT_EQ(EndsWith(string, part), last != text.npos && last + part.size() == text.size());
+      std::vector<ZRStringMutator> parts = PartsOf(string, part);
+      EXPECT_EQ(Joined(parts, part), string);
+      for (const ZRString& between : parts)
+        EXPECT_FALSE(Contains(between, part));
+      EXPECT_EQ(Joined(parts, u'x'), ReplacedAll(text, part, FromUtf16(u"x")));
+      parts.erase(std::remove(parts.begin(), parts.end(), u""_zr), parts.end());
+      EXPECT_EQ(PartsOf(text, part, kZRSkipEmptyParts), parts);
+    });
+  });
+  EXPECT_EQ(PartOf(u"abc", 1, 1) + PartOf(u"abc", 1) + Trimmed(u" d "), u"bbcd");
+  EXPECT_EQ(UpperCase(u"a\u00DF") + LowerCase(u"A\u00C9"), u"ASSa\u00E9");
+}
+
+// A copy of a string with an open buffer would share that buffer.
+TEST(Interop, OpenBuffersAreEmptyTextsAndAreNotShared) {
+  ZRStringMutator open(u"abc"_zr);
+  open.GetBuffer(-1);
+  const CodePoints characters(open);
+  EXPECT_EQ(characters.begin(), characters.end());
+  const ZRString texts[] = {ReplacedAll(open, u'a', u'b'),
+                            Trimmed(open),
+                            UpperCase(open),
+                            LowerCase(open),
+                            PartOf(open, 0),
+                            open + open,
+                            Joined(PartsOf(open, u'a'), u"")};
+  for (const ZRString& text : texts) {
+    EXPECT_EQ(text, u"");
+    EXPECT_NE(text.GetBuffer(), nullptr);
+  }
+  EXPECT_EQ(Holders(open), 1);
 }
 
 TEST(Interop, Printing) {

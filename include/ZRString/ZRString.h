@@ -46,6 +46,9 @@ class ZRStringHolderCount {
 
 /// An immutable Unicode string of UTF-16 code units.
 ///
+/// It cannot be assigned and has no default. Use ZRStringMutator in structs, in `std::optional` and
+/// in vectors that are sorted or erased from; copies share their text all the same.
+///
 /// @code
 /// const ZRString text("copy on write", 0, kZRToEnd);
 /// const ZRString copy(text);               // shares the units

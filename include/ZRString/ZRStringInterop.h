@@ -16,11 +16,16 @@
 #include <cstdio>
 #include <cstring>
 #include <functional>
+#include <iterator>
 #include <new>
+#include <optional>
 #include <ostream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
 #if __has_include(<version>)
 #include <version>
 #endif
@@ -29,7 +34,8 @@
 #endif
 
 /// @file
-/// Strings and the C++ standard library: UTF-8, `std::u16string_view`, hashing, ordering, printing.
+/// Strings and the C++ standard library: UTF-8, `std::u16string_view`, hashing, ordering, printing;
+/// characters, and short forms of what programs do most often.
 ///
 /// The shared library contains none of this: the header is compiled into the programs that include
 /// it and uses only the public members of ZRString and ZRStringMutator. Besides the functions below
@@ -89,6 +95,76 @@ inline ZRString Exact(const unsigned short* units, ZRLong length) {
   return string;
 }
 
+/// What converts to a view, but is no null pointer.
+template <typename Text>
+constexpr bool kIsView =
+    std::is_convertible_v<const Text&, std::u16string_view> && !std::is_base_of_v<ZRString, Text> &&
+    !std::is_same_v<Text, std::nullptr_t>;
+
+template <typename Text>
+using IfView = std::enable_if_t<kIsView<Text>, int>;
+
+template <typename Text>
+using IfText = std::enable_if_t<kIsView<Text> || std::is_base_of_v<ZRString, Text>, int>;
+
+inline std::u16string_view ViewOf(const ZRString& string) {
+  return {UnitsAs<const char16_t>(string.GetBuffer()),
+          static_cast<std::size_t>(string.GetLength())};
+}
+inline std::u16string_view ViewOf(std::u16string_view text) { return text; }
+
+inline const ZRString& StringOf(const ZRString& string) { return string; }
+inline ZRString StringOf(std::u16string_view text) {
+  return Exact(UnitsAs<const unsigned short>(text.data()), Length(text.size()));
+}
+
+inline bool AreEqual(std::u16string_view left, std::u16string_view right) {
+  return left.size() == right.size() &&
+         (left.empty() || std::memcmp(left.data(), right.data(), 2 * left.size()) == 0);
+}
+
+inline ZRStringMutator Sum(std::u16string_view left, std::u16string_view right) {
+  const ZRLong length = Length(left.size() + right.size());
+  ZRStringMutator sum;
+  unsigned short* const units = sum.GetBuffer(length);
+  if (!units)
+    throw std::bad_alloc();
+  if (!left.empty())
+    std::memcpy(units, left.data(), 2 * left.size());
+  if (!right.empty())
+    std::memcpy(units + left.size(), right.data(), 2 * right.size());
+  sum.ReleaseBuffer(length);
+  return sum;
+}
+
+inline void ThrowIfLost(const ZRStringMutator& edited) {
+  if (!edited.GetBuffer())
+    throw std::bad_alloc();
+}
+
+/// A text or a single unit that a function looks for.
+struct Pattern {
+  template <typename Text, IfText<Text> = 0>
+  Pattern(const Text& text) : view(ViewOf(text)) {
+    if constexpr (!kIsView<Text>)
+      string = &text;
+  }
+  template <typename Unit,
+            std::enable_if_t<std::is_same_v<Unit, char16_t> || std::is_same_v<Unit, unsigned short>,
+                             int> = 0>
+  Pattern(Unit single) : unit(static_cast<char16_t>(single)), view(&unit, 1) {}
+  Pattern(const Pattern&) = delete;
+  Pattern& operator=(const Pattern&) = delete;
+
+  const unsigned short* Units() const { return UnitsAs<const unsigned short>(view.data()); }
+  ZRLong Size() const { return Length(view.size()); }
+  ZRString String() const { return string ? *string : Exact(Units(), Size()); }
+
+  const ZRString* string = nullptr;
+  char16_t unit = 0;
+  std::u16string_view view;
+};
+
 }  // namespace ZRStringInteropDetail
 /// @endcond
 
@@ -99,15 +175,12 @@ inline namespace ZRStringInterop {
 /// A view of the units of `string`, not a copy: valid as long as the pointer that
 /// ZRString::GetBuffer() returns.
 inline std::u16string_view Utf16View(const ZRString& string) {
-  return {ZRStringInteropDetail::UnitsAs<const char16_t>(string.GetBuffer()),
-          static_cast<std::size_t>(string.GetLength())};
+  return ZRStringInteropDetail::ViewOf(string);
 }
 
 /// A string with a copy of `text`, which may also be a `std::u16string` or a literal `u"..."`.
 inline ZRString FromUtf16(std::u16string_view text) {
-  return ZRStringInteropDetail::Exact(
-      ZRStringInteropDetail::UnitsAs<const unsigned short>(text.data()),
-      ZRStringInteropDetail::Length(text.size()));
+  return ZRStringInteropDetail::StringOf(text);
 }
 
 /// `u"..."_zr` is a string of the whole literal, embedded zero units included.
@@ -197,13 +270,301 @@ struct ZRStringLess {
   /// Whether `left` sorts before `right`; each is a ZRString or converts to `std::u16string_view`.
   template <typename Left, typename Right>
   bool operator()(const Left& left, const Right& right) const {
-    return View(left) < View(right);
+    return ZRStringInteropDetail::ViewOf(left) < ZRStringInteropDetail::ViewOf(right);
   }
+};
+
+/// @name Operators
+/// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
+/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy.
+/// @{
+
+/// `left` followed by `right`.
+inline ZRStringMutator operator+(const ZRString& left, const ZRString& right) {
+  return ZRStringInteropDetail::Sum(Utf16View(left), Utf16View(right));
+}
+
+/// @cond
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+ZRStringMutator operator+(const ZRString& left, const Text& right) {
+  return ZRStringInteropDetail::Sum(Utf16View(left), right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+ZRStringMutator operator+(const Text& left, const ZRString& right) {
+  return ZRStringInteropDetail::Sum(left, Utf16View(right));
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator==(const ZRString& left, const Text& right) {
+  return ZRStringInteropDetail::AreEqual(Utf16View(left), right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator==(const Text& left, const ZRString& right) {
+  return right == left;
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator!=(const ZRString& left, const Text& right) {
+  return !(left == right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator!=(const Text& left, const ZRString& right) {
+  return !(right == left);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator<(const ZRString& left, const Text& right) {
+  return Utf16View(left) < std::u16string_view(right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator<(const Text& left, const ZRString& right) {
+  return std::u16string_view(left) < Utf16View(right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator>(const ZRString& left, const Text& right) {
+  return right < left;
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator>(const Text& left, const ZRString& right) {
+  return right < left;
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator<=(const ZRString& left, const Text& right) {
+  return !(right < left);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator<=(const Text& left, const ZRString& right) {
+  return !(right < left);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator>=(const ZRString& left, const Text& right) {
+  return !(left < right);
+}
+template <typename Text, ZRStringInteropDetail::IfView<Text> = 0>
+bool operator>=(const Text& left, const ZRString& right) {
+  return !(left < right);
+}
+/// @endcond
+
+/// @}
+/// @name Characters
+/// A character is a code point. A surrogate pair is one; an unpaired surrogate is one, too, with
+/// its own value.
+/// @{
+
+/// The characters of a text, forward and backward:
+/// `for (char32_t character : CodePoints(string))`.
+///
+/// Of a string it holds a copy, which shares the text. Of a `std::u16string_view` it holds the
+/// view, whose units must live as long as it is used.
+class CodePoints {
+ public:
+  /// Points to a character; invalid once its CodePoints is destroyed.
+  class iterator {
+   public:
+    /// @cond
+    using iterator_category = std::bidirectional_iterator_tag;
+    using value_type = char32_t;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char32_t*;
+    using reference = char32_t;
+
+    iterator() = default;
+    iterator(std::u16string_view text, std::size_t index) : text_(text), index_(index) {}
+    char32_t operator*() const {
+      const char32_t unit = text_[index_];
+      return Size() == 1 ? unit : 0x10000 + ((unit & 0x3FF) << 10) + (text_[index_ + 1] & 0x3FFu);
+    }
+    iterator& operator++() {
+      index_ += Size();
+      return *this;
+    }
+    iterator& operator--() {
+      --index_;
+      if (index_ > 0 && ZRStringInteropDetail::IsTrail(text_[index_]) &&
+          ZRStringInteropDetail::IsLead(text_[index_ - 1]))
+        --index_;
+      return *this;
+    }
+    iterator operator++(int) { return std::exchange(*this, std::next(*this)); }
+    iterator operator--(int) { return std::exchange(*this, std::prev(*this)); }
+    bool operator==(const iterator& other) const { return index_ == other.index_; }
+    bool operator!=(const iterator& other) const { return index_ != other.index_; }
+    /// @endcond
+
+    /// The index of the character's first unit in the text.
+    ZRLong Index() const { return static_cast<ZRLong>(index_); }
+
+   private:
+    std::size_t Size() const {
+      const bool pair = ZRStringInteropDetail::IsLead(text_[index_]) && index_ + 1 < text_.size() &&
+                        ZRStringInteropDetail::IsTrail(text_[index_ + 1]);
+      return pair ? 2 : 1;
+    }
+
+    std::u16string_view text_;
+    std::size_t index_ = 0;
+  };
+  using const_iterator = iterator;                           ///< Characters are only read.
+  using reverse_iterator = std::reverse_iterator<iterator>;  ///< From the last character on.
+  using const_reverse_iterator = reverse_iterator;           ///< Characters are only read.
+
+  explicit CodePoints(const ZRString& string) : text_(Utf16View(string)) {
+    if (!text_.empty())
+      string_.emplace(string);
+  }
+  explicit CodePoints(std::u16string_view text) : text_(text) {}
+
+  iterator begin() const { return {text_, 0}; }                        ///< The first one.
+  iterator end() const { return {text_, text_.size()}; }               ///< Behind the last.
+  reverse_iterator rbegin() const { return reverse_iterator(end()); }  ///< The last one.
+  reverse_iterator rend() const { return reverse_iterator(begin()); }  ///< Before the first.
 
  private:
-  static std::u16string_view View(const ZRString& string) { return Utf16View(string); }
-  static std::u16string_view View(std::u16string_view text) { return text; }
+  std::optional<ZRString> string_;  // keeps the units alive
+  std::u16string_view text_;
 };
+
+/// The number of characters of a text: a ZRString, or what converts to `std::u16string_view`.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRLong CodePointCount(const Text& text) {
+  const std::u16string_view units = ZRStringInteropDetail::ViewOf(text);
+  ZRLong pairs = 0;
+  for (std::size_t i = 1; i < units.size(); ++i)
+    pairs +=
+        ZRStringInteropDetail::IsTrail(units[i]) && ZRStringInteropDetail::IsLead(units[i - 1]);
+  return ZRStringInteropDetail::Length(units.size()) - pairs;
+}
+
+/// The character to which the unit at `index` belongs; 0xFFFF (#kZRNoUnit) outside the text.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+char32_t CodePointAt(const Text& text, ZRLong index) {
+  const std::u16string_view units = ZRStringInteropDetail::ViewOf(text);
+  const auto at = static_cast<std::size_t>(index);
+  if (index < 0 || at >= units.size())
+    return kZRNoUnit;
+  CodePoints::iterator character(units, at + 1);
+  return *--character;
+}
+
+/// @}
+/// @name Short forms
+/// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
+/// what converts to `std::u16string_view`, of which a string is made first. What a function looks
+/// for may also be a single unit, a `char16_t` or `unsigned short`. A text that cannot be read is
+/// empty.
+/// @{
+
+/// Index of the first occurrence of `part` from the unit `from` on; -1 (#kZRNotFound) if there is
+/// none or `part` is empty. Calls ZRString::Find.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRLong IndexOf(const Text& text, const ZRStringInteropDetail::Pattern& part, ZRLong from = 0) {
+  return ZRStringInteropDetail::StringOf(text).Find(part.Units(), 0, part.Size(), from, kZRToEnd);
+}
+
+/// Whether `part` occurs in `text`; not if it is empty. Calls ZRString::Find.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+bool Contains(const Text& text, const ZRStringInteropDetail::Pattern& part) {
+  return IndexOf(text, part) != kZRNotFound;
+}
+
+/// Whether `text` begins with `part`; also if it is empty. Calls ZRString::StartsWith.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+bool StartsWith(const Text& text, const ZRStringInteropDetail::Pattern& part) {
+  return ZRStringInteropDetail::StringOf(text).StartsWith(part.Units(), 0, part.Size());
+}
+
+/// Whether `text` ends with `part`; also if it is empty. Calls ZRString::EndsWith.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+bool EndsWith(const Text& text, const ZRStringInteropDetail::Pattern& part) {
+  return ZRStringInteropDetail::StringOf(text).EndsWith(part.Units(), 0, part.Size());
+}
+
+/// `length` units of `text` from the unit `start` on; -1: to the end. The range is clamped.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRStringMutator PartOf(const Text& text, ZRLong start, ZRLong length = kZRToEnd) {
+  const auto& string = ZRStringInteropDetail::StringOf(text);
+  return string.GetBuffer() ? ZRStringMutator(string, start, length) : ZRStringMutator();
+}
+
+/// What PartsOf() does with empty parts.
+enum ZREmptyParts {
+  kZRKeepEmptyParts,  ///< An empty text has one part, which is empty.
+  kZRSkipEmptyParts   ///< An empty text has no parts.
+};
+
+/// The parts of `text` between the occurrences of `separator`. Calls ZRString::Find. There is one
+/// part if `separator` is empty.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+std::vector<ZRStringMutator> PartsOf(const Text& text,
+                                     const ZRStringInteropDetail::Pattern& separator,
+                                     ZREmptyParts empty = kZRKeepEmptyParts) {
+  const ZRString string = PartOf(text, 0);
+  std::vector<ZRStringMutator> parts;
+  for (ZRLong start = 0;;) {
+    const ZRLong found = IndexOf(string, separator, start);
+    const ZRLong end = found == kZRNotFound ? string.GetLength() : found;
+    if (end > start || empty == kZRKeepEmptyParts)
+      parts.emplace_back(string, start, end - start);
+    if (found == kZRNotFound)
+      return parts;
+    start = end + separator.Size();
+  }
+}
+
+/// The texts of a range, with `separator` between them. Calls ZRStringMutator::Append.
+template <typename Range>
+ZRStringMutator Joined(Range&& texts, const ZRStringInteropDetail::Pattern& separator) {
+  ZRStringMutator joined;
+  bool first = true;
+  for (auto&& text : texts) {
+    const ZRStringInteropDetail::Pattern part(text);
+    if (!first)
+      joined.Append(separator.Units(), 0, separator.Size());
+    joined.Append(part.Units(), 0, part.Size());
+    first = false;
+  }
+  ZRStringInteropDetail::ThrowIfLost(joined);
+  return joined;
+}
+
+/// `text` with each occurrence of `oldPart` replaced by `newPart`, unless `oldPart` is empty. Calls
+/// ZRStringMutator::FindAndReplace.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRStringMutator ReplacedAll(const Text& text, const ZRStringInteropDetail::Pattern& oldPart,
+                            const ZRStringInteropDetail::Pattern& newPart) {
+  ZRStringMutator replaced = PartOf(text, 0);
+  replaced.FindAndReplace(0, kZRToEnd, oldPart.String(), 0, kZRToEnd, newPart.String(), 0,
+                          kZRToEnd);
+  ZRStringInteropDetail::ThrowIfLost(replaced);
+  return replaced;
+}
+
+/// `text` without leading and trailing white space. Calls ZRStringMutator::Trim.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRStringMutator Trimmed(const Text& text) {
+  ZRStringMutator trimmed = PartOf(text, 0);
+  trimmed.Trim();
+  ZRStringInteropDetail::ThrowIfLost(trimmed);
+  return trimmed;
+}
+
+/// `text` in upper case, by the rules of ICU's default locale. Calls ZRStringMutator::ToUpper.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRStringMutator UpperCase(const Text& text) {
+  ZRStringMutator upper = PartOf(text, 0);
+  upper.ToUpper();
+  ZRStringInteropDetail::ThrowIfLost(upper);
+  return upper;
+}
+
+/// `text` in lower case, by the rules of ICU's default locale. Calls ZRStringMutator::ToLower.
+template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
+ZRStringMutator LowerCase(const Text& text) {
+  ZRStringMutator lower = PartOf(text, 0);
+  lower.ToLower();
+  ZRStringInteropDetail::ThrowIfLost(lower);
+  return lower;
+}
+
+/// @}
 
 /// Inserts the text of `string` as UTF-8, like a `std::string`: the field width counts bytes.
 inline std::ostream& operator<<(std::ostream& stream, const ZRString& string) {
