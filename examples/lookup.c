@@ -1,8 +1,8 @@
-/* Looks up a word in a word list in windows-1252, with one entry per line, through the handle
- * interface. The list is sorted in linguistic order, and entries that differ from an earlier one
- * only in case are dropped. */
+/* Looks up a word in a word list with one entry per line, through the handle interface. Both are in
+ * UTF-8 or, by an option, in windows-1252. The list is sorted in linguistic order, and entries that
+ * differ from an earlier one only in case are dropped. */
 
-#include <ZRString/ZRStringHandles.h>
+#include <ZRString/ZRStringUtf8.h>
 #include <errno.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -64,8 +64,21 @@ static unsigned char* ReadFile(const char* path, size_t* size) {
   return bytes;
 }
 
+static ZRStringRef__* Decoded(const unsigned char* text, size_t size, int windows1252) {
+  ZRStringRef__* string = NULL;
+  ZRLong status;
+  if (windows1252)
+    status = ZRStringCreateFromLocalString(text, 0, (ZRLong)size, &string);
+  else
+    status = ZRStringCreateFromUtf8((const char*)text, size, &string);
+  if (status == kZRStatusNoMemory)
+    Fail("no memory", "");
+  Check(status);
+  return string;
+}
+
 /* Appends a string for each line of a file that is not empty. */
-static void Decode(const char* path, ZRStringPtrArrayRef__* words) {
+static void Decode(const char* path, int windows1252, ZRStringPtrArrayRef__* words) {
   size_t size = 0;
   unsigned char* const bytes = ReadFile(path, &size);
   size_t start = 0;
@@ -77,11 +90,8 @@ static void Decode(const char* path, ZRStringPtrArrayRef__* words) {
       --length;
     if (length > LONGEST_LINE)
       Fail("a line is too long in ", path);
-    if (length > 0) {
-      ZRStringRef__* word = NULL;
-      Check(ZRStringCreateFromLocalString(bytes + start, 0, (ZRLong)length, &word));
-      Check(ZRStringPtrArrayPushBack(words, word));
-    }
+    if (length > 0)
+      Check(ZRStringPtrArrayPushBack(words, Decoded(bytes + start, length, windows1252)));
     start = limit + 1;
   }
   free(bytes);
@@ -139,13 +149,15 @@ static ZRULong LowerBound(ZRStringPtrArrayRef__* words, ZRStringRef__* word) {
 }
 
 int main(int argc, char** argv) {
-  if (argc != 3)
-    Fail("usage: lookup FILE WORD (both in windows-1252)", "");
+  const int windows1252 = argc > 1 && strcmp(argv[1], "--windows-1252") == 0;
+  if (argc != 3 + windows1252)
+    Fail("usage: lookup [--windows-1252] FILE WORD", "");
+  const char* const path = argv[1 + windows1252];
+  const char* const wanted = argv[2 + windows1252];
   ZRStringPtrArrayRef__* words = NULL;
-  ZRStringRef__* word = NULL;
   Check(ZRStringPtrArrayCreate(&words));
-  Check(ZRStringCreateFromLocalString((const unsigned char*)argv[2], 0, kZRToEnd, &word));
-  Decode(argv[1], words);
+  ZRStringRef__* const word = Decoded((const unsigned char*)wanted, strlen(wanted), windows1252);
+  Decode(path, windows1252, words);
   const ZRULong decoded = SizeOf(words);
   Sort(words);
 

@@ -52,9 +52,8 @@ operator<<(std::basic_ostringstream<unsigned short>& stream, const ZRString& str
 /// Inserts a zero-terminated 8-bit text, decoded from the code page windows-1252. A null `text` is
 /// an empty text.
 ///
-/// Only a string stream that has not been turned into a plain stream by an inserter before decodes
-/// it: `o << "\x80"` inserts U+20AC, but `o << std::setw(4) << "\x80"` inserts U+0080, because
-/// `std::setw` returns a `std::basic_ostream`, whose own operator widens each byte.
+/// Manipulators return the stream as a `std::basic_ostream`, whose own operator widens each byte:
+/// `o << "\x80"` inserts U+20AC, but `o << std::setw(4) << "\x80"` inserts U+0080.
 /// @return `stream`, as a string stream
 ZR_API std::basic_ostringstream<unsigned short>& ZR_CALL
 operator<<(std::basic_ostringstream<unsigned short>& stream, const char* text);

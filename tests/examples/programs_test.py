@@ -3,7 +3,7 @@
     programs_test.py FOLDER-OF-THE-PROGRAMS [LOOKUP.PY]
 
 $ARGUMENTS is the encoding in which the system takes arguments that `lookup` gets in windows-1252:
-UTF-8 for Wine, which converts them.
+UTF-8 for Wine, which converts them and so cannot pass UTF-8.
 """
 
 import os
@@ -79,7 +79,7 @@ class Examples(unittest.TestCase):
     def check(self, command, output, complaint=""):
         """Runs a command in the shell. If it fails, its message must begin with `complaint`."""
         with self.subTest(command):
-            encoded = command.encode(ENCODING if command.startswith("lookup") else "utf-8")
+            encoded = command.encode(ENCODING if "--windows-1252" in command else "utf-8")
             done = subprocess.run(b"exec " + encoded, shell=True, capture_output=True)
             printed = re.sub(r"( +[0-9.]+ ms)?\r?\n", "\n", done.stdout.decode())
             message = done.stderr.decode().replace("\r", "")[: len(complaint) or None]
@@ -89,6 +89,7 @@ class Examples(unittest.TestCase):
     def test_words_are_found(self):
         for data, lines, entries, words, places in LISTS:
             pathlib.Path("list").write_bytes(data)
+            pathlib.Path("utf-8").write_bytes(data.decode("windows-1252").encode())
             counts = {"read": lines, "edited": entries, "sorted": entries, "kept": len(words)}
             for word, place in places.items():
                 is_at = "entry" if place > 0 else "not in the list; it would be entry"
@@ -98,6 +99,8 @@ class Examples(unittest.TestCase):
                 printed = f"{entries} entries, {len(words)} kept\n{is_at}"
                 for lookup in LOOKUPS:
                     self.check(f"{lookup} list '{word}'", printed)
+                if ENCODING != "UTF-8":
+                    self.check(f"lookup utf-8 '{word}'", printed)
 
     def test_lists_are_edited_saved_and_loaded(self):
         counts = {"read": 14, "edited": 12, "sorted": 12, "kept": 11}
@@ -131,7 +134,7 @@ if __name__ == "__main__":
     ENCODING = os.environ.get("ARGUMENTS", "windows-1252")
     # The leaks that a sanitizer finds in Python are Python's. ICU's default locale is LC_ALL's.
     python = f"env ASAN_OPTIONS=detect_leaks=0 {sys.executable} "
-    LOOKUPS = ["lookup", *(python + script for script in scripts)]
+    LOOKUPS = ["lookup --windows-1252", *(python + script for script in scripts)]
     os.environ.update(LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", ASAN_OPTIONS="")
     os.environ["PATH"] = programs + ":" + os.environ["PATH"]
     with tempfile.TemporaryDirectory() as folder:
