@@ -59,6 +59,14 @@ std::vector<std::u16string_view> Words() {
   return words;
 }
 
+/// `text` again and again, at least `bytes` bytes of it in UTF-8.
+std::u16string Repeated(std::u16string_view text, std::size_t bytes) {
+  std::u16string repeated;
+  while (ToUtf8(repeated).size() < bytes)
+    repeated += text;
+  return repeated;
+}
+
 template <typename Peer, typename Function>
 void Add(const char* row, Function function) {
   const std::string name = std::string(row) + "|" + Peer::kName;
@@ -148,6 +156,14 @@ void AddPeer(const std::vector<std::u16string_view>& texts) {
   if constexpr (Peer::kUnicode) {
     AddUtf8<Peer>("create from 20 bytes of UTF-8", "20 units to UTF-8", shortText);
     AddUtf8<Peer>("create from 1,000 bytes of UTF-8", "1,000 units to UTF-8", Text(1000, u"quay"));
+    AddUtf8<Peer>("create from 1 KB of French UTF-8", "French text to UTF-8",
+                  Repeated(u"Voix ambigu\u00EB d\u2019un c\u0153ur qui, au z\u00E9phyr, ", 1000));
+    AddUtf8<Peer>("create from 1 KB of Greek UTF-8", "Greek text to UTF-8",
+                  Repeated(u"\u03A4\u03AC\u03C7\u03B9\u03C3\u03C4\u03B7 "
+                           u"\u03B1\u03BB\u03CE\u03C0\u03B7\u03BE, ",
+                           1000));
+    AddUtf8<Peer>("create from 1 KB of Chinese UTF-8", "Chinese text to UTF-8",
+                  Repeated(u"\u8996\u91CE\u7121\u9650\u5EE3\uFF0C", 1000));
   }
   Add<Peer>("append 1,000 units one by one", [] {
     String text;
