@@ -1,6 +1,7 @@
 #include "Calls.h"
 
 #include <ZRString/ZRStringHandles.h>
+#include <ZRString/ZRStringInterop.h>
 #include <unicode/normlzr.h>
 
 namespace {
@@ -173,6 +174,17 @@ const std::vector<Calls>& AllCalls() {
        },
        [](ZR& t) { return t.text.Find(t.pattern, t.start, kEnd, t.start, kEnd); }, "ZRStringFind",
        [](ZR& t) { return ZRStringFind(t.textHandle, t.start, kEnd, t.patternHandle, &t.result); }},
+      {"short form IndexOf",
+       [](Icu& t) {
+         return t.text.indexOf(t.pattern, t.start, t.pattern.length, t.start, t.length);
+       },
+       [](ZR& t) { return IndexOf(t.text, t.pattern.string); }},
+      {"short form StartsWith",
+       [](Icu& t) { return t.text.startsWith(t.prefix, t.start, t.prefix.length); },
+       [](ZR& t) { return StartsWith(t.text, t.prefix.string); }},
+      {"short form EndsWith",
+       [](Icu& t) { return t.text.endsWith(t.suffix, t.start, t.suffix.length); },
+       [](ZR& t) { return EndsWith(t.text, t.suffix.string); }},
       {"Find, raw",
        [](Icu& t) {
          return t.text.indexOf(t.pattern.Raw(), t.start, t.pattern.length, t.start, t.length);

@@ -142,11 +142,13 @@ inline void ThrowIfLost(const ZRStringMutator& edited) {
     throw std::bad_alloc();
 }
 
-/// A text or a single unit that a function looks for.
+/// A text or a single unit that a function looks for: a string, or units.
 struct Pattern {
   template <typename Text, IfText<Text> = 0>
-  Pattern(const Text& text) : view(ViewOf(text)) {
-    if constexpr (!kIsView<Text>)
+  Pattern(const Text& text) {
+    if constexpr (kIsView<Text>)
+      view = text;
+    else
       string = &text;
   }
   template <typename Unit,
@@ -156,9 +158,15 @@ struct Pattern {
   Pattern(const Pattern&) = delete;
   Pattern& operator=(const Pattern&) = delete;
 
-  const unsigned short* Units() const { return UnitsAs<const unsigned short>(view.data()); }
-  ZRLong Size() const { return Length(view.size()); }
-  ZRString String() const { return string ? *string : Exact(Units(), Size()); }
+  ZRLong Size() const { return string ? string->GetLength() : Length(view.size()); }
+  ZRString String() const { return string ? *string : StringOf(view); }
+
+  /// Calls `withString` with the string, or `withUnits` with the units and their number.
+  template <typename WithString, typename WithUnits>
+  auto Call(WithString withString, WithUnits withUnits) const {
+    return string ? withString(*string)
+                  : withUnits(UnitsAs<const unsigned short>(view.data()), Length(view.size()));
+  }
 
   const ZRString* string = nullptr;
   char16_t unit = 0;
@@ -456,7 +464,12 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// none or `part` is empty. Calls ZRString::Find.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 ZRLong IndexOf(const Text& text, const ZRStringInteropDetail::Pattern& part, ZRLong from = 0) {
-  return ZRStringInteropDetail::StringOf(text).Find(part.Units(), 0, part.Size(), from, kZRToEnd);
+  const auto& in = ZRStringInteropDetail::StringOf(text);
+  return part.Call(
+      [&](const ZRString& string) { return in.Find(string, 0, kZRToEnd, from, kZRToEnd); },
+      [&](const unsigned short* units, ZRLong size) {
+        return in.Find(units, 0, size, from, kZRToEnd);
+      });
 }
 
 /// Whether `part` occurs in `text`; not if it is empty. Calls ZRString::Find.
@@ -468,13 +481,19 @@ bool Contains(const Text& text, const ZRStringInteropDetail::Pattern& part) {
 /// Whether `text` begins with `part`; also if it is empty. Calls ZRString::StartsWith.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 bool StartsWith(const Text& text, const ZRStringInteropDetail::Pattern& part) {
-  return ZRStringInteropDetail::StringOf(text).StartsWith(part.Units(), 0, part.Size());
+  const auto& in = ZRStringInteropDetail::StringOf(text);
+  return part.Call(
+      [&](const ZRString& string) { return in.StartsWith(string, 0, kZRToEnd); },
+      [&](const unsigned short* units, ZRLong size) { return in.StartsWith(units, 0, size); });
 }
 
 /// Whether `text` ends with `part`; also if it is empty. Calls ZRString::EndsWith.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 bool EndsWith(const Text& text, const ZRStringInteropDetail::Pattern& part) {
-  return ZRStringInteropDetail::StringOf(text).EndsWith(part.Units(), 0, part.Size());
+  const auto& in = ZRStringInteropDetail::StringOf(text);
+  return part.Call(
+      [&](const ZRString& string) { return in.EndsWith(string, 0, kZRToEnd); },
+      [&](const unsigned short* units, ZRLong size) { return in.EndsWith(units, 0, size); });
 }
 
 /// `length` units of `text` from the unit `start` on; -1: to the end. The range is clamped.
@@ -513,12 +532,15 @@ std::vector<ZRStringMutator> PartsOf(const Text& text,
 template <typename Range>
 ZRStringMutator Joined(Range&& texts, const ZRStringInteropDetail::Pattern& separator) {
   ZRStringMutator joined;
+  const auto append = [&](const ZRStringInteropDetail::Pattern& text) {
+    text.Call([&](const ZRString& string) { joined.Append(string, 0, kZRToEnd); },
+              [&](const unsigned short* units, ZRLong size) { joined.Append(units, 0, size); });
+  };
   bool first = true;
   for (auto&& text : texts) {
-    const ZRStringInteropDetail::Pattern part(text);
     if (!first)
-      joined.Append(separator.Units(), 0, separator.Size());
-    joined.Append(part.Units(), 0, part.Size());
+      append(separator);
+    append(text);
     first = false;
   }
   ZRStringInteropDetail::ThrowIfLost(joined);
