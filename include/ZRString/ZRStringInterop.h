@@ -414,10 +414,12 @@ class CodePoints {
   using reverse_iterator = std::reverse_iterator<iterator>;  ///< From the last character on.
   using const_reverse_iterator = reverse_iterator;           ///< Characters are only read.
 
+  /// Of a string.
   explicit CodePoints(const ZRString& string) : text_(Utf16View(string)) {
     if (!text_.empty())
       string_.emplace(string);
   }
+  /// Of a view.
   explicit CodePoints(std::u16string_view text) : text_(text) {}
 
   iterator begin() const { return {text_, 0}; }                        ///< The first one.

@@ -1,0 +1,28 @@
+/* Prints what the page on conversions shows for C. */
+
+#include <ZRString/ZRStringUtf8.h>
+#include <stdio.h>
+
+int main(void) {
+  //! [c]
+  ZRMutableStringRef__* greeting;
+  char text[8];
+  size_t size = 0;
+  ZRLong status =
+      ZRMutableStringCreateFromUtf8("Gru", ZR_TO_ZERO_BYTE,
+                                    &greeting);
+  if (status == 0)
+    status =
+        ZRMutableStringAppendUtf8(greeting,
+                                  "\xC3\x9F an alle", 10);
+  if (status == 0)
+    status =
+        ZRStringExtractIntoUtf8((ZRStringRef__*)greeting,
+                                text, sizeof text, &size);
+  if (status == 0)
+    printf("%s (%d of %d bytes)\n", text,
+           (int)sizeof text - 1, (int)size);
+  //! [c]
+  ZRMutableStringDestroy(greeting);
+  return (int)status;
+}
