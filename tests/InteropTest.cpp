@@ -3,6 +3,7 @@
 #include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringUtf8.h>
 #include <gtest/gtest.h>
+#include <unicode/uclean.h>
 #include <unicode/unistr.h>
 
 #include <cstdlib>
@@ -277,6 +278,35 @@ TEST(Interop, ShortForms) {
   });
   EXPECT_EQ(PartOf(u"abc", 1, 1) + PartOf(u"abc", 1) + Trimmed(u" d "), u"bbcd");
   EXPECT_EQ(UpperCase(u"a\u00DF") + LowerCase(u"A\u00C9"), u"ASSa\u00E9");
+}
+
+TEST(Interop, IcuWithoutMemory) {
+  static bool fails = false;
+  UErrorCode status = U_ZERO_ERROR;
+  u_setMemoryFunctions(
+      nullptr, [](const void*, std::size_t size) { return fails ? nullptr : std::malloc(size); },
+      [](const void*, void* block, std::size_t size) { return std::realloc(block, size); },
+      [](const void*, void* block) { std::free(block); }, &status);
+  const ZRString half = FromUtf8(std::string(400, 'a'));
+  ZRStringMutator edited(half);
+  ZRStringRef__* out = nullptr;
+  for (const std::size_t size : {100, 1000}) {
+    const std::string bytes(size, 'a');
+    fails = true;
+    EXPECT_EQ(ZRStringCreateFromUtf8(bytes.data(), size, &out), kZRStatusNoMemory);
+    EXPECT_EQ(out, nullptr);
+    EXPECT_THROW(FromUtf8(bytes), std::bad_alloc);
+    EXPECT_THROW(half + half, std::bad_alloc);
+    EXPECT_THROW(Joined(std::vector<std::u16string>(size, u"abc"), u','), std::bad_alloc);
+    fails = false;
+  }
+  edited += 'x';  // detaches
+  fails = true;
+  EXPECT_EQ(ZRMutableStringAppendUtf8(edited.GetZRMutableStringRef(),
+                                      std::string(4000, 'a').c_str(), ZR_TO_ZERO_BYTE),
+            kZRStatusTextLost);
+  EXPECT_THROW(UpperCase(half), std::bad_alloc);
+  fails = false;
 }
 
 // A copy of a string with an open buffer would share that buffer.
