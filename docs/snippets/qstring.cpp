@@ -22,6 +22,10 @@ std::string Shown(ZRLong number) {
   return std::to_string(number);
 }
 
+std::string Shown(signed char order) {
+  return std::to_string(order);
+}
+
 std::string Shown(bool yes) {
   return yes ? "true" : "false";
 }
