@@ -82,13 +82,19 @@ compile c99 -E -P - <<< $'#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING' |
   grep -qxF "\"$(pkg-config --modversion zrstring)\"" || die "ZRVersion.h and zrstring.pc differ"
 
 say "the public headers, each alone"
+plain='/ZR(Types|StringHandles|StringUtf8)\.h$'
 for header in $(cd "$prefix/include" && find . -name '*.h' -printf '%P\n'); do
   for standard in c99 c11 c2x c++17 c++20 c++2b; do
-    [[ $standard == c++* || $header =~ /ZR(Types|StringHandles|StringUtf8)\.h$ ]] || continue
+    [[ $standard == c++* || $header =~ $plain ]] || continue
     compile $standard -Wconversion -fsyntax-only -MD -MF "$work/included" - \
       <<< "#include <$header>" ||
       die "$header alone, as $standard"
     ! grep unicode/ "$work/included" || die "$header includes a header of ICU"
+    [[ $header =~ $plain && -n $(command -v clang) ]] || continue
+    for system in linux-gnu windows-msvc; do
+      CC=clang CXX=clang++ CXXFLAGS='' compile $standard -Wconversion -fsyntax-only - \
+        "--target=x86_64-pc-$system" <<< "#include <$header>" || die "$header, as $standard, $system"
+    done
   done
 done
 
