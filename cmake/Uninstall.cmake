@@ -22,6 +22,8 @@ foreach(file IN LISTS files)
   # A folder whose name file(GLOB) would take for a pattern is left alone.
   while(folder MATCHES "/(ZRString|Velmar|zrstring)$|/gdb/auto-load/." AND
       NOT folder MATCHES "[][*?]")
+    # What Python has compiled of its package. Without the sources it is of no use.
+    file(REMOVE_RECURSE "${folder}/__pycache__")
     file(GLOB rest "${folder}/*")
     if(rest)
       break()

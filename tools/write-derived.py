@@ -5,9 +5,10 @@
 
 These are the three interface classes (include/ZRString/ZRStringInterfaces.h and
 handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), the
-tables in docs/statuses.md and docs/ranges.md, the declarations in examples/python/zrstring.py, and
-those for other languages in examples/languages/. Run it after a change of that header and commit
-what it writes. --check only compares, and fails if a file is out of date.
+tables in docs/statuses.md and docs/ranges.md, the declarations in python/zrstring/handles.py, and
+those for other languages in examples/languages/. The version in python/zrstring/_version.py comes
+from CMakeLists.txt. Run the script after a change of that header or of the version and commit what
+it writes. --check only compares, and fails if a file is out of date.
 """
 
 import dataclasses
@@ -30,7 +31,8 @@ STATUSES = ROOT / "docs/statuses.md"
 RANGES = ROOT / "docs/ranges.md"
 TYPES = ROOT / "include/ZRString/ZRTypes.h"
 LANGUAGES = ROOT / "examples/languages"
-PYTHON = ROOT / "examples/python/zrstring.py"
+PYTHON = ROOT / "python/zrstring/handles.py"
+PYTHON_VERSION = ROOT / "python/zrstring/_version.py"
 
 
 @dataclasses.dataclass
@@ -110,7 +112,7 @@ NOT_NULL = {
     "const char*": "units",
 }
 
-# The declarations in the Python module, and a table in a page, are between these lines.
+# The declarations in the Python package, and a table in a page, are between these lines.
 PYTHON_BEGIN = "# Written by tools/write-derived.py: edit ZRStringHandles.h and run that.\n"
 PYTHON_END = "# Up to here.\n"
 TABLE_BEGIN = "<!-- written by tools/write-derived.py -->\n\n"
@@ -247,29 +249,34 @@ def minus_one_table(functions):
 
 
 def python_type(kind):
-    """What zrstring.py calls a parameter's type."""
-    if kind.endswith("Ref__*"):
-        return "Handle"
+    """What the Python package calls a parameter's type."""
     names = {"ZRLong": "Long", "ZRULong": "ULong", "unsigned char": "Bool"}
     names |= {"unsigned short": "Unit", "const unsigned short*": "Units"}
     names |= {"unsigned short*": "Units", "const char*": "Bytes", "const unsigned char*": "Bytes"}
+    names |= {"ZRStringRef__*": "StringRef", "ZRMutableStringRef__*": "MutableStringRef"}
+    names |= {"ZRStringPtrArrayRef__*": "ArrayRef"}
     return names.get(kind) or f"Out({python_type(kind.removesuffix('*'))})"
 
 
 def python_declarations(functions):
-    text = "# The functions, with their parameters.\nFUNCTIONS = {\n"
-    positions = ""
+    text = positions = ""
     for function in functions:
-        pairs = [f'("{name}",\0{python_type(kind)})' for kind, name in function.parameters]
-        line = f'"{function.name}":\0[{", ".join(pairs)}],'
-        line = textwrap.fill(line, WIDTH, initial_indent=" " * 4, subsequent_indent=" " * 8)
-        text += line.replace("\0", " ") + "\n"
+        pairs = [f"{name}={python_type(kind)}" for kind, name in function.parameters]
+        call = f'{function.name} = Function("{function.name}", {", ".join(pairs)})'
+        text += textwrap.fill(call, WIDTH, subsequent_indent=" " * 4) + "\n"
         for status, test in function.tests.items():
             if status != test.member_status:
                 position = test.member_status - FIRST_PARAMETER + 1
                 positions += f'    ("{function.name}", {status}): {position},\n'
     comment = "\n# Positions of invalid parameters whose status is not 3 + the position.\n"
-    return f"{text}}}\n{comment}_POSITIONS = {{\n{positions}}}\n"
+    return f"{text}{comment}POSITIONS = {{\n{positions}}}\n"
+
+
+def python_version():
+    project = (ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
+    version = re.search(r"^project\(ZRString VERSION ([0-9.]+)", project, re.MULTILINE)[1]
+    comment = "# Written by tools/write-derived.py: edit CMakeLists.txt and run that."
+    return f'{comment}\n__version__ = "{version}"\n'
 
 
 def with_text(path, text, begin=TABLE_BEGIN, end=TABLE_END):
@@ -301,6 +308,7 @@ def written(functions):
         STATUSES: with_text(STATUSES, statuses_table(functions)),
         RANGES: with_text(RANGES, minus_one_table(functions)),
         PYTHON: with_text(PYTHON, python_declarations(functions), PYTHON_BEGIN, PYTHON_END),
+        PYTHON_VERSION: python_version(),
     }
 
 

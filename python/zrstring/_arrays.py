@@ -1,0 +1,186 @@
+"""StringArray."""
+
+import ctypes
+import threading
+from typing import Any, Iterable, List, MutableSequence, Tuple, Type, TypeVar, Union, overload
+
+from . import handles
+from ._strings import AnyString, BaseString, String, _indices, _integer, _operand, _wrong, borrowed
+
+_A = TypeVar("_A", bound="StringArray")
+
+
+class _OwnedArray(handles.ArrayRef):
+    """A handle that destroys its array."""
+
+    _type_ = handles.ZRStringPtrArrayRef__
+
+    def __del__(self, destroy: Any = handles.ZRStringPtrArrayDestroy._function) -> None:
+        if self:
+            destroy(self)
+
+
+handles.ZRStringPtrArrayDestroy._function.argtypes = [  # type: ignore[attr-defined]
+    handles.ArrayRef
+]
+
+_create = handles.ZRStringPtrArrayCreate.prepared(_OwnedArray)
+_get = handles.GetZRStringRefAt.prepared()
+_size = handles.ZRStringPtrArraySize.prepared()
+_set = handles.SetZRStringRefAt.prepared()
+_insert = handles.InsertZRStringRefAt.prepared()
+_push_back = handles.ZRStringPtrArrayPushBack.prepared()
+_erase = handles.ZRStringPtrArrayErase.prepared()
+_erase_all = handles.ZRStringPtrArrayEraseAll.prepared()
+
+
+def _kept(value: AnyString, name: str = "string") -> BaseString:
+    return value if isinstance(value, BaseString) else String._made(_operand(value, name))
+
+
+def _all_kept(values: Iterable[AnyString], name: str) -> List[BaseString]:
+    try:
+        iterator = iter(values)
+    except TypeError:
+        raise _wrong(name, "iterable", values) from None
+    return [_kept(value, f"an entry of {name}") for value in iterator]
+
+
+class StringArray(MutableSequence[BaseString]):
+    """A list of strings: a list in Python and an array of the library with the same strings.
+
+    The library's array does not own its strings, so this object keeps them. It stores the objects
+    that it gets; a str becomes a String.
+
+    >>> words = StringArray(["deux", MutableString("trois")])
+    >>> words.insert(0, "un")
+    >>> words[1:], words[0] is words[0], words == ["un", "deux", "trois"]
+    (StringArray([String('deux'), MutableString('trois')]), True, True)
+    """
+
+    __slots__ = ("_handle", "_strings", "_lock", "__weakref__")
+    _handle: Any
+    _lock: threading.Lock  # keeps the list and the array the same
+    _strings: List[BaseString]  # the owners of the handles in the array, entry by entry
+
+    def __new__(cls: Type[_A], strings: Iterable[AnyString] = ()) -> _A:
+        new = super().__new__(cls)
+        new._lock = threading.Lock()
+        new._strings = []
+        new._handle = _create()
+        new.extend(strings)
+        return new
+
+    @classmethod
+    def from_handle(cls: Type[_A], handle: object) -> _A:
+        """An array of Strings that share the texts in an array of C or C++ as they are now.
+
+        `handle` is a capsule (PyCapsule) with a `ZRStringPtrArrayRef__*` and the name of that
+        structure, or such a pointer of zrstring.handles."""
+        source = borrowed(handle, handles.ArrayRef)
+        return cls(String.from_handle(_get(source, index)) for index in range(_size(source)))
+
+    @property
+    def address(self) -> int:
+        """The address of the library's array, for C and C++. It is valid as long as this object.
+
+        They may read it, and must not change it."""
+        return ctypes.cast(self._handle, ctypes.c_void_p).value or 0
+
+    @property
+    def _as_parameter_(self) -> Any:
+        return self._handle
+
+    def __len__(self) -> int:
+        return len(self._strings)
+
+    def __repr__(self) -> str:
+        return f"{type(self).__name__}({self._strings!r})"
+
+    def __reduce__(self) -> Tuple[Any, ...]:
+        return type(self), (self._strings[:],)
+
+    def __eq__(self, other: object) -> bool:
+        if isinstance(other, (StringArray, list)):
+            return self._strings == list(other)
+        return NotImplemented
+
+    __hash__ = None  # type: ignore[assignment]
+
+    @overload
+    def __getitem__(self, index: int) -> BaseString: ...
+    @overload
+    def __getitem__(self: _A, index: slice) -> _A: ...
+    def __getitem__(self: _A, index: Union[int, slice]) -> Union[BaseString, _A]:
+        if isinstance(index, slice):
+            return type(self)(self._strings[index])
+        return self._strings[_integer(index, "index")]
+
+    def _become(self, strings: List[BaseString]) -> None:
+        _erase_all(self._handle)
+        for string in strings:
+            _push_back(self._handle, string._handle)
+        self._strings = strings
+
+    def _place(self, index: int) -> int:
+        if not -len(self._strings) <= index < len(self._strings):
+            raise IndexError("array index out of range")
+        return index % len(self._strings)
+
+    @overload
+    def __setitem__(self, index: int, value: AnyString) -> None: ...
+    @overload
+    def __setitem__(self, index: slice, value: Iterable[AnyString]) -> None: ...
+    def __setitem__(self, index: Union[int, slice], value: Any) -> None:
+        if isinstance(index, slice):
+            strings = _all_kept(value, "value")
+            with self._lock:
+                all_strings = self._strings[:]
+                all_strings[index] = strings
+                self._become(all_strings)
+        else:
+            string, index = _kept(value), _integer(index, "index")
+            with self._lock:
+                place = self._place(index)
+                _set(self._handle, place, string._handle)
+                # What this may destroy waits until the lock is free.
+                string, self._strings[place] = self._strings[place], string
+
+    def __delitem__(self, index: Union[int, slice]) -> None:
+        if isinstance(index, slice):
+            with self._lock:
+                all_strings = self._strings[:]
+                del all_strings[index]
+                self._become(all_strings)
+        else:
+            index = _integer(index, "index")
+            with self._lock:
+                place = self._place(index)
+                _erase(self._handle, place)
+                self._strings.pop(place)
+
+    def insert(self, index: int, value: AnyString) -> None:
+        """Inserts a string before the entry at `index`, which may lie outside, as for a list."""
+        string, index = _kept(value, "value"), _integer(index, "index")
+        with self._lock:
+            size = len(self._strings)
+            place, _ = _indices(index, None, size)
+            self._strings.insert(place, string)
+            if place == size:
+                _push_back(self._handle, string._handle)
+            else:
+                _insert(self._handle, place, string._handle)
+
+    def append(self, value: AnyString) -> None:
+        """Adds a string at the end."""
+        self.insert(len(self._strings), value)
+
+    def extend(self, values: Iterable[AnyString]) -> None:
+        """Adds strings at the end."""
+        strings = _all_kept(values, "values")
+        with self._lock:
+            self._become(self._strings + strings)
+
+    def clear(self) -> None:
+        """Removes all entries."""
+        del self[:]
