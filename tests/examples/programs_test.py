@@ -116,6 +116,11 @@ class Examples(unittest.TestCase):
         for option in ("-h", "--help"):
             self.check(f"wordlist {option} | head -n 2", USAGE)
 
+    def test_both_languages_edit_one_string(self):
+        printed = "Python: ['Hello Zoë,', 'Regards']\nC++: REGARDS\nPython: REGARDS!\n"
+        if shutil.which("embed"):  # which CMake leaves out, and says so, without Python's headers
+            self.check("env ASAN_OPTIONS=detect_leaks=0 PYTHONIOENCODING=utf-8 embed", printed)
+
     def test_failures_are_sentences_and_status_2(self):
         for command, complaint in FAILURES.items():
             name, _, arguments = command.partition(" ")
@@ -135,8 +140,8 @@ if __name__ == "__main__":
     # The leaks that a sanitizer finds in Python are Python's. ICU's default locale is LC_ALL's.
     python = f"env ASAN_OPTIONS=detect_leaks=0 {sys.executable} "
     LOOKUPS = ["lookup --windows-1252", *(python + script for script in scripts)]
-    os.environ.update(LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", ASAN_OPTIONS="")
     os.environ["PATH"] = programs + ":" + os.environ["PATH"]
+    os.environ.update(LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", ASAN_OPTIONS="")
     with tempfile.TemporaryDirectory() as folder:
         os.chdir(folder)
         for name, data in FILES.items():
