@@ -81,6 +81,12 @@ check_packages() {
   cp "$user/road" "$runner/"
   in_debian "$runner" /road | diff "$user/road.txt" -
 
+  # Python needs that and python3-zrstring, which leaves nothing when it is removed.
+  add_packages "$runner" './python3-zrstring_*'
+  in_debian "$runner" python3 -c 'import zrstring; print(zrstring.String("ab") + "c")' | grep -qx abc
+  in_debian "$runner" apt-get -q purge -y python3-zrstring
+  [ -z "$(find "$runner/usr" -name '*zrstring*' ! -name '*libzrstring1*')" ]
+
   # With libzrstring1-dbgsym, GDB shows the strings of a program that was built with -g.
   add_packages "$user" './libzrstring1-dbgsym_*' g++ gdb
   cp "$top/tests/debugger/Samples.cpp" "$user/"
