@@ -82,19 +82,6 @@ inline ZRLong Length(std::size_t size) {
 // A text of more bytes than this is measured before it gets storage.
 constexpr std::size_t kMaybeTooLong = 0x40000000;
 
-/// A string without room to grow, which the constructors would leave.
-inline ZRString Exact(const unsigned short* units, ZRLong length) {
-  if (length <= kZRUtf8Short)
-    return ZRString(units, length);
-  ZRStringMutator string;
-  unsigned short* const buffer = string.GetBuffer(length);
-  if (!buffer)
-    throw std::bad_alloc();
-  std::memcpy(buffer, units, static_cast<std::size_t>(length) * sizeof *units);
-  string.ReleaseBuffer(length);
-  return string;
-}
-
 /// What converts to a view, but is no null pointer.
 template <typename Text>
 constexpr bool kIsView =
@@ -115,7 +102,7 @@ inline std::u16string_view ViewOf(std::u16string_view text) { return text; }
 
 inline const ZRString& StringOf(const ZRString& string) { return string; }
 inline ZRString StringOf(std::u16string_view text) {
-  return Exact(UnitsAs<const unsigned short>(text.data()), Length(text.size()));
+  return ZRString(UnitsAs<const unsigned short>(text.data()), Length(text.size()));
 }
 
 inline bool AreEqual(std::u16string_view left, std::u16string_view right) {
@@ -203,7 +190,7 @@ inline ZRString FromUtf8(std::string_view text) {
   if (text.size() <= kZRUtf8Chunk) {
     unsigned short units[kZRUtf8Chunk];
     const std::size_t length = ZRUtf8Decode(&next, end, end, units);
-    return ZRStringInteropDetail::Exact(units, static_cast<ZRLong>(length));
+    return ZRString(units, static_cast<ZRLong>(length));
   }
   const ZRLong room =
       text.size() <= ZRStringInteropDetail::kMaybeTooLong
@@ -217,7 +204,7 @@ inline ZRString FromUtf8(std::string_view text) {
   string.ReleaseBuffer(length);
   if (room - length <= length / 4)
     return string;
-  return ZRStringInteropDetail::Exact(string.GetBuffer(), length);
+  return ZRString(string.GetBuffer(), length);
 }
 
 #ifdef __cpp_char8_t
@@ -257,9 +244,8 @@ inline std::string ToUtf8(const ZRString& string) { return ToUtf8(Utf16View(stri
 #ifdef _WIN32
 /// A string with a copy of `text`, which comes from a function of Windows.
 inline ZRString FromWide(std::wstring_view text) {
-  return ZRStringInteropDetail::Exact(
-      ZRStringInteropDetail::UnitsAs<const unsigned short>(text.data()),
-      ZRStringInteropDetail::Length(text.size()));
+  return ZRString(ZRStringInteropDetail::UnitsAs<const unsigned short>(text.data()),
+                  ZRStringInteropDetail::Length(text.size()));
 }
 
 /// The text of `string` for a function of Windows.
