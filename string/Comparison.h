@@ -25,22 +25,41 @@ inline std::uint64_t FourUnits(const char16_t* units) {
   return word;
 }
 
+inline Block Differences(const char16_t* left, const char16_t* right) {
+  return LoadBlock(left) ^ LoadBlock(right);
+}
+
+constexpr std::int32_t kLong = 8 * kBlock;
+
+/// A number of equal units at the beginning of texts of at least kLong units: up to less than half
+/// of that before the first difference. Out of line: few texts are so long.
+[[gnu::noinline]] inline std::int32_t EqualRun(const char16_t* left, const char16_t* right,
+                                               std::int32_t count) {
+  constexpr std::int32_t kHalf = kLong / 2;
+  const auto anyOfHalf = [&](std::int32_t at) {
+    return (Differences(left + at, right + at) |
+            Differences(left + at + kBlock, right + at + kBlock)) |
+           (Differences(left + at + 2 * kBlock, right + at + 2 * kBlock) |
+            Differences(left + at + 3 * kBlock, right + at + 3 * kBlock));
+  };
+  if (Any(Differences(left, right)))
+    return 0;
+  // ICU puts a number of 4 bytes before the units. From an aligned block on, none of this text, and
+  // usually none of the other, lies across two cache lines.
+  auto i = static_cast<std::int32_t>(-reinterpret_cast<std::uintptr_t>(left) % sizeof(Block) / 2);
+  for (; count - i >= kLong; i += kLong) {
+    const Block low = anyOfHalf(i);
+    if (Any(low | anyOfHalf(i + kHalf)))
+      return Any(low) ? i : i + kHalf;
+  }
+  return i;
+}
+
 /// The number of units before the first difference, at most `count`.
 inline std::int32_t EqualUnits(const char16_t* left, const char16_t* right, std::int32_t count) {
-  const auto differences = [&](std::int32_t at) {
-    return LoadBlock(left + at) ^ LoadBlock(right + at);
-  };
-  constexpr std::int32_t kRun = 8 * kBlock;
-  std::int32_t i = 0;
-  for (; count - i >= kRun; i += kRun) {
-    Block any{};
-    for (std::int32_t k = 0; k < kRun; k += kBlock)
-      any |= differences(i + k);
-    if (Any(any))
-      break;
-  }
+  std::int32_t i = count < kLong ? 0 : EqualRun(left, right, count);
   for (; count - i >= kBlock; i += kBlock)
-    if (const Block different = differences(i); Any(different))
+    if (const Block different = Differences(left + i, right + i); Any(different))
       return i + FirstOf(different);
   while (i < count && left[i] == right[i])
     ++i;
