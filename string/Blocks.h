@@ -4,8 +4,17 @@
 #include <cstdint>
 #include <cstring>
 
-// Eight units at a time, in the compiler's vectors: SSE2, NEON or ordinary words, as the processor
-// has them. Whoever reads a block makes sure that all of its units belong to the text.
+// Eight units at a time, in the compiler's vectors. Whoever reads a block makes sure that all of
+// its units belong to the text.
+
+/// Whether the processor compares the units of a block at once. Others would take them one by one,
+/// for which a loop is better.
+#if defined(__SSE2__) || defined(__ARM_NEON) || defined(__VX__)
+constexpr bool kHasBlocks = true;
+#else
+constexpr bool kHasBlocks = false;
+#pragma GCC diagnostic ignored "-Wpsabi"  // no compiled function passes a block to another
+#endif
 
 using Block = std::uint16_t __attribute__((vector_size(16)));
 using BlockWords = std::uint64_t __attribute__((vector_size(16)));

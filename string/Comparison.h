@@ -57,10 +57,17 @@ constexpr std::int32_t kLong = 8 * kBlock;
 
 /// The number of units before the first difference, at most `count`.
 inline std::int32_t EqualUnits(const char16_t* left, const char16_t* right, std::int32_t count) {
-  std::int32_t i = count < kLong ? 0 : EqualRun(left, right, count);
-  for (; count - i >= kBlock; i += kBlock)
-    if (const Block different = Differences(left + i, right + i); Any(different))
-      return i + FirstOf(different);
+  std::int32_t i = 0;
+  if constexpr (kHasBlocks) {
+    if (count >= kLong)
+      i = EqualRun(left, right, count);
+    for (; count - i >= kBlock; i += kBlock)
+      if (const Block different = Differences(left + i, right + i); Any(different))
+        return i + FirstOf(different);
+  } else {
+    while (count - i >= 4 && FourUnits(left + i) == FourUnits(right + i))
+      i += 4;
+  }
   while (i < count && left[i] == right[i])
     ++i;
   return i;
@@ -104,7 +111,7 @@ inline signed char InCodePointOrder(Units left, Units right) {
 /// Whether every unit is below `limit`.
 inline bool AreBelow(Units text, char16_t limit) {
   std::int32_t i = 0;
-  for (; text.count - i >= kBlock; i += kBlock)
+  for (; kHasBlocks && text.count - i >= kBlock; i += kBlock)
     if (Any(LoadBlock(text.first + i) >= BlockOf(limit)))
       return false;
   while (i < text.count && text.first[i] < limit)

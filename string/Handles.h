@@ -4,8 +4,8 @@
 #include <ZRString/ZRStringHandles.h>
 #include <ZRString/ZRStringMutator.h>
 
-// A handle is the address of its object. All casts between strings and their handles are here, those
-// of arrays in array/ZRStringPtrArray.cpp.
+// A handle is the address of its object. All casts between strings and their handles are here,
+// those of arrays in array/ZRStringPtrArray.cpp.
 
 inline ZRString& StringOf(ZRStringRef__* handle) { return *reinterpret_cast<ZRString*>(handle); }
 

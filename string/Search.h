@@ -32,7 +32,7 @@ inline bool MaySplitPair(Units pattern) {
     return (LoadBlock(text.first + place) == firsts) & (LoadBlock(ends + place) == lasts);
   };
   std::int32_t i = 0;
-  for (; places - i >= 2 * kBlock; i += 2 * kBlock) {
+  for (; kHasBlocks && places - i >= 2 * kBlock; i += 2 * kBlock) {
     const auto low = candidates(i), high = candidates(i + kBlock);
     if (!Any(low | high))
       continue;
