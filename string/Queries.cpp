@@ -29,7 +29,9 @@ signed char CompareWhole(const icu::UnicodeString& left, const icu::UnicodeStrin
 /// Index of the first occurrence of `pattern` in `range`, counted from the start of `text`.
 ZRLong IndexIn(const icu::UnicodeString& text, Units range, Units pattern) {
   const std::int32_t place = IndexOf(range, pattern);
-  return place < 0 ? kZRNotFound : static_cast<ZRLong>(range.first + place - text.getBuffer());
+  if (place < 0)
+    return kZRNotFound;
+  return static_cast<ZRLong>(range.first + place - text.getBuffer());
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
   const ZRString string = Make(left), other = Make(right);
   const auto exact = Exact(right);
   const unsigned short* const raw = exact.get();
-  const std::int32_t all = INT32_MAX, rest = std::max(theirs.length() - start, 0);
+  const std::int32_t all = INT32_MAX, rest = std::max<std::int32_t>(theirs.length() - start, 0);
   const ZRLong end = string.GetLength() - 1;
   const auto agree = [](int expected, std::initializer_list<int> results) {
     return std::count(results.begin(), results.end(), expected) ==

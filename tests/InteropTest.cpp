@@ -263,7 +263,7 @@ TEST(Interop, ShortForms) {
       SCOPED_TRACE(testing::PrintToString(string) + " " + testing::PrintToString(FromUtf16(part)));
       const std::size_t at = part.empty() ? text.npos : text.find(part, 1);
       const std::size_t last = text.rfind(part);
-      EXPECT_EQ(IndexOf(text, FromUtf16(part), 1), at == text.npos ? kZRNotFound : ZRLong(at));
+      EXPECT_EQ(IndexOf(text, FromUtf16(part), 1), at == text.npos ? -1 : ZRLong(at));
       EXPECT_EQ(Contains(string, part), !part.empty() && text.find(part) != text.npos);
       EXPECT_EQ(StartsWith(string, part), text.compare(0, part.size(), part) == 0);
       EXPECT_EQ(EndsWith(string, part), last != text.npos && last + part.size() == text.size());
