@@ -68,18 +68,18 @@ TEST(Handles, TheFirstInvalidParameterCountsAndNothingIsWritten) {
 #define ZR_ROW(function, member, ...) \
   {#function, Erased(&::function), Erased(&member), {__VA_ARGS__}},
 #include "HandleRows.inc"
-#define ZR_UTF8_ROW(function, ...) ZR_ROW(function, function, __VA_ARGS__)
-      // clang-format off
-      ZR_UTF8_ROW(ZRStringCreateFromUtf8, utf8, size, out)
-      ZR_UTF8_ROW(ZRMutableStringCreateFromUtf8, utf8, size, out)
-      ZR_UTF8_ROW(ZRMutableStringAppendUtf8, mutableString, utf8, size)
-      ZR_UTF8_ROW(ZRStringGetUtf8Size, string, out)
-      ZR_UTF8_ROW(ZRStringExtractIntoUtf8, string, out, size, out)
-      ZR_UTF8_ROW(ZRStringAllocateUtf8, string, out, any)
-      // clang-format on
+#define ZR_UTF8(name) #name, Erased(&name), Erased(&name)
+      {ZR_UTF8(ZRStringCreateFromUtf8), {utf8, size, out}},
+      {ZR_UTF8(ZRMutableStringCreateFromUtf8), {utf8, size, out}},
+      {ZR_UTF8(ZRMutableStringAppendUtf8), {mutableString, utf8, size}},
+      {ZR_UTF8(ZRStringGetUtf8Size), {string, out}},
+      {ZR_UTF8(ZRStringExtractIntoUtf8), {string, out, size, out}},
+      {ZR_UTF8(ZRStringAllocateUtf8), {string, out, any}},
   };
   std::ifstream exports(ZRSTRING_PLAIN_EXPORTS);
-  std::set<std::string> untested(std::istream_iterator<std::string>(exports), {});
+  std::set<std::string> untested;
+  for (std::string name; exports >> name; exports.ignore(99, '\n'))  // past its symbol version
+    untested.insert(name);
   for (const auto& [name, plain, member, parameters] : rows)
     for (std::size_t position = 0; position < parameters.size(); ++position)
       for (const Word value : parameters[position].invalid)
