@@ -7,9 +7,9 @@
 # shellcheck disable=SC2016 # what the shells in there expand
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
-. "$top/tools/steps.sh"
-. "$top/tools/bare-debian.sh"
-. "$top/tests/pages.sh"
+. "$top/tools/steps.inc.sh"
+. "$top/tools/bare-debian.inc.sh"
+. "$top/tests/pages.inc.sh"
 
 check_install() {
   cp -a "$bare" "$bare-install"
@@ -53,14 +53,14 @@ check_packages() {
   local maker=$bare-maker user=$bare-user runner=$bare-runner root package packages multiarch
   for root in "$maker" "$user" "$runner"; do cp -a "$bare" "$root"; done
   copy_project "$maker/project"
-  in_debian "$maker" /project/tools/debian/make-packages
+  in_debian "$maker" /project/tools/debian/make-packages.sh
   packages=$maker/project/build/packages
   multiarch=$(in_debian "$maker" dpkg-architecture -qDEB_HOST_MULTIARCH)
 
   # They are the same if they are made in another folder and on another day.
   copy_project "$maker/elsewhere/project"
   in_debian "$maker" apt-get -q install -y faketime
-  in_debian "$maker" faketime -f +3d /elsewhere/project/tools/debian/make-packages
+  in_debian "$maker" faketime -f +3d /elsewhere/project/tools/debian/make-packages.sh
   for package in "$packages"/*.deb; do cmp "$package" "${package/project/elsewhere/project}"; done
   check_files libzrstring1 Runtime
   check_files libzrstring-dev Development

@@ -4,7 +4,7 @@
 # compiled with its headers, with today's library. Takes a minute on Debian 12, where 1.0.0 builds.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 work=$top/build/compatibility
 old=$work/1.0.0 new=$work/today
 

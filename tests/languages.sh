@@ -6,7 +6,7 @@
 # usage: tests/languages.sh [rust|go|csharp]...
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 build=$top/build/languages
 examples=$top/examples/languages
 

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Cross-builds the library and its in-process tests for 64-bit ARM (aarch64), for the big-endian s390x
-# and for 32-bit x86 (i386), or the one that is named, and runs them: i386 on this processor, the
-# others under QEMU. Takes minutes. Installs the Debian packages that are missing; those of the other
-# processors are unpacked below build/, not installed.
+# Cross-builds the library and its in-process tests for 64-bit ARM (aarch64), for the big-endian
+# s390x and for 32-bit x86 (i386), or the one that is named, and runs them: i386 on this processor,
+# the others under QEMU. Takes minutes. Installs the Debian packages that are missing; those of the
+# other processors are unpacked below build/, not installed.
 # usage: tests/processors.sh [aarch64|s390x|i386]
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 
 build() {
   local system=$folder/system target=${processor/i386/i686}-linux-gnu
@@ -17,7 +17,7 @@ build() {
   mkdir "$folder"
   mmdebstrap --variant=extract --architectures="${processor/aarch64/arm64}" \
     --include=libgtest-dev,libicu-dev --keyring=/usr/share/keyrings/debian-archive-keyring.gpg \
-    "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$system" "$("$top/tools/debian-mirror")"
+    "$(. /etc/os-release && echo "$VERSION_CODENAME")" "$system" "$("$top/tools/debian-mirror.sh")"
   cmake --preset release -S "$top" -B "$folder/zrstring" -DZRSTRING_BUILD_EXAMPLES=OFF \
     -DCMAKE_SYSTEM_NAME=Linux -DCMAKE_SYSTEM_PROCESSOR="$processor" \
     -DCMAKE_C_COMPILER="$target-gcc" -DCMAKE_CXX_COMPILER="$target-g++" \

@@ -12,8 +12,8 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 tests=$top/tests/install work=$BUILD/tests/install/work
 installed=$work/installed prefix=$work/moved
 export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
-. "$top/tools/steps.sh"
-. "$top/tests/pages.sh"
+. "$top/tools/steps.inc.sh"
+. "$top/tests/pages.inc.sh"
 
 # check_installed COMPONENTS OPTION...: installing with the OPTIONs gives the files of COMPONENTS.
 check_installed() {

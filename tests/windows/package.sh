@@ -5,7 +5,7 @@
 set -euo pipefail
 tests=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 top=$(cd "$tests/../.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 build=$1 arch=$2 version=$3
 bits=64 gcc=seh stdcall=
 [ "$arch" != i686 ] || bits=32 gcc=dw2 stdcall=-mrtd
@@ -37,18 +37,18 @@ done < <(grep -oh 'common-licenses/[-.A-Za-z0-9]*[A-Za-z0-9]' "$package"/license
 
 say "C++ programs, through find_package"
 build_with mingw --toolchain "$top/cmake/mingw-$arch.cmake" -DCMAKE_FIND_ROOT_PATH="$package"
-"$top/docs/check-page.py" "$top/docs/index.md" "$tests/wine" "$bin/road.exe"
-for program in "$bin"/vector*.exe; do logged program.log "$tests/wine" "$program"; done
+"$top/docs/check-page.py" "$top/docs/index.md" "$tests/wine.sh" "$bin/road.exe"
+for program in "$bin"/vector*.exe; do logged program.log "$tests/wine.sh" "$program"; done
 
 say "the examples"
 for example in wordlist lookup; do
-  printf '#!/bin/sh\nexec "%s" "%s" "$@"\n' "$tests/wine" "$bin/$example.exe" > "$example"
+  printf '#!/bin/sh\nexec "%s" "%s" "$@"\n' "$tests/wine.sh" "$bin/$example.exe" > "$example"
   chmod +x "$example"
 done
 TMPDIR=$work ARGUMENTS=UTF-8 python3 "$top/tests/examples/programs_test.py" "$work"
 
 say "a program that only loads the library, from its own folder"
-"$tests/wine" mingw/load.exe "${bin//\//\\}\\ZRString.dll" |
+"$tests/wine.sh" mingw/load.exe "${bin//\//\\}\\ZRString.dll" |
   diff --strip-trailing-cr <(echo "$version") -
 
 say "a C program with Microsoft's ABI, through find_package and ZRString.lib"
@@ -59,12 +59,12 @@ build_with microsoft -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_PREFIX_PATH="$package" 
   -DCMAKE_C_STANDARD_LIBRARIES="/usr/$arch-w64-mingw32/lib/libkernel32.a" \
   -DCMAKE_RUNTIME_OUTPUT_DIRECTORY="$bin"
 grep -q '/ZRString\.lib' microsoft/build.ninja || die "find_package did not choose ZRString.lib"
-logged program.log "$tests/wine" "$bin/linked.exe"
+logged program.log "$tests/wine.sh" "$bin/linked.exe"
 
 say "every DLL of the package, missing"
 for dll in "$bin"/*.dll; do
   mv "$dll" missing.dll
-  ! WINEDEBUG=err+module "$tests/wine" "$bin/road.exe" > missing.txt 2>&1 ||
+  ! WINEDEBUG=err+module "$tests/wine.sh" "$bin/road.exe" > missing.txt 2>&1 ||
     die "${dll##*/} is not needed"
   grep -o "Library ${dll##*/} .*not found" missing.txt || die "${dll##*/}: $(cat missing.txt)"
   mv missing.dll "$dll"

@@ -10,7 +10,7 @@ trap 'rm -rf "$parts"' EXIT
 mkdir -p "$parts/lists/partial" "$parts/archives/partial"
 # shellcheck source=/dev/null
 codename=$(. /etc/os-release && echo "$VERSION_CODENAME")
-mirror=$("$(dirname "${BASH_SOURCE[0]}")/../debian-mirror")
+mirror=$("$(dirname "${BASH_SOURCE[0]}")/../debian-mirror.sh")
 echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $codename main" \
   > "$parts/sources.list"
 apt=(apt-get -q -o Dir::Etc::SourceList="$parts/sources.list" -o Dir::Etc::SourceParts=-

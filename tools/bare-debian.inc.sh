@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# Sourced by scripts that try something on a bare Debian system, after tools/steps.sh and with the
-# project's folder in $top. They must run as root. $work is a scratch folder.
+# Sourced by scripts that try something on a bare Debian system, after tools/steps.inc.sh and with
+# the project's folder in $top. They must run as root. $work is a scratch folder.
 
 : "${top:?}"
 [ "$(id -u)" -eq 0 ] || die "must be run as root"
@@ -16,11 +16,12 @@ trap 'exit 143' TERM
 make_debian() {
   apt-config dump Acquire | grep -E '^Acquire::(https?::|Check-|Retries)' > "$work/apt.conf" || true
   mmdebstrap --mode=root --variant=minbase --aptopt="$work/apt.conf" "${@:3}" \
-    --keyring=/usr/share/keyrings/debian-archive-keyring.gpg "$1" "$2" "$("$top/tools/debian-mirror")"
+    --keyring=/usr/share/keyrings/debian-archive-keyring.gpg \
+    "$1" "$2" "$("$top/tools/debian-mirror.sh")"
 }
 
-# in_debian FOLDER COMMAND...: runs COMMAND in that system. What is mounted for it exists only in its
-# own mount namespace and vanishes with its last process.
+# in_debian FOLDER COMMAND...: runs COMMAND in that system. What is mounted for it exists only in
+# its own mount namespace and vanishes with its last process.
 in_debian() {
   local root=$1
   shift

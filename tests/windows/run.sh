@@ -3,18 +3,18 @@
 # build behind them under Wine, or the tests that arguments for ctest select. Takes minutes and must
 # be run as root: Wine runs in a separate Debian system in $ZRSTRING_CACHE
 # (~/.cache/zrstring-windows), which is made anew when Debian has another Wine.
-# usage: tests/windows/run [i686|x86_64 [CTEST-ARGUMENT...]]
+# usage: tests/windows/run.sh [i686|x86_64 [CTEST-ARGUMENT...]]
 # shellcheck disable=SC2016 # what the shell in the namespace expands
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 case ${1:-} in
   '') "$0" i686; exec "$0" x86_64 ;;
   i686) export WINEARCH=win32 ;;
   x86_64) export WINEARCH=win64 ;;
   *) die "the architectures are i686 and x86_64" ;;
 esac
-. "$top/tools/bare-debian.sh"
+. "$top/tools/bare-debian.inc.sh"
 "$top/tools/install-packages.sh" bzip2 clang lld python3 unicode-data
 cache=${ZRSTRING_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zrstring-windows}
 version=$(LC_ALL=C apt-cache policy wine64 | sed -n 's/^  Candidate: //p')
@@ -31,8 +31,8 @@ make_root() {
 mkdir -p "$cache"
 (flock 9 && make_root) 9> "$cache/wine.lock"
 
-"$top/tools/windows/make-packages" "$1" -DZRSTRING_BUILD_TESTS=ON -DZRSTRING_BUILD_EXAMPLES=ON \
-  -DCMAKE_CROSSCOMPILING_EMULATOR="$top/tests/windows/wine"
+"$top/tools/windows/make-packages.sh" "$1" -DZRSTRING_BUILD_TESTS=ON -DZRSTRING_BUILD_EXAMPLES=ON \
+  -DCMAKE_CROSSCOMPILING_EMULATOR="$top/tests/windows/wine.sh"
 
 say "testing: $1"
 export WINEPREFIX=$build/wine WINEDEBUG=-all DISPLAY=

@@ -2,11 +2,11 @@
 # Cross-builds the ZIP packages for Windows on Debian.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 
 usage() {
   cat << 'USAGE'
-usage: tools/windows/make-packages [i686|x86_64 [CMAKE-ARGUMENT...]]
+usage: tools/windows/make-packages.sh [i686|x86_64 [CMAKE-ARGUMENT...]]
 
 Makes build/windows-ARCH/zrstring-VERSION-win32.zip (i686) and -win64.zip (x86_64), or the one whose
 ARCH is named. Installs the Debian packages that are missing. Builds ICU first, which takes some
@@ -66,11 +66,11 @@ logged "$build/logs/configure.log" cmake -U 'ICU_*' -U GTest_DIR -G Ninja -S "$t
   -DZRSTRING_WARNINGS_AS_ERRORS=ON -DZRSTRING_BUILD_TESTS=OFF -DZRSTRING_BUILD_EXAMPLES=OFF "$@"
 logged "$build/logs/build.log" nice cmake --build "$build"
 
-# Nothing in the archive depends on when, where and by whom it is made: the files are sorted and have
-# the date of the sources, which MinGW's strip puts into ZRString.dll, too.
+# Nothing in the archive depends on when, where and by whom it is made: the files are sorted and
+# have the date of the sources, which MinGW's strip puts into ZRString.dll, too.
 make_zip() {
   local stage=$build/package SOURCE_DATE_EPOCH
-  SOURCE_DATE_EPOCH=$("$top/tools/source-date")
+  SOURCE_DATE_EPOCH=$("$top/tools/source-date.sh")
   export SOURCE_DATE_EPOCH
   rm -rf "$stage" "$build/$package.zip"
   cmake --install "$build" --prefix "$stage/$package" --strip

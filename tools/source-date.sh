@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Prints the date that packages carry instead of that of their making, in seconds since 1970:
-# $SOURCE_DATE_EPOCH if that is set, else that of the last commit or, outside a git checkout, that of
-# the newest file.
+# $SOURCE_DATE_EPOCH if that is set, else that of the last commit or, outside a git checkout, that
+# of the newest file.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -10,7 +10,7 @@ die() {
   exit 1
 }
 
-# check_build_folder FOLDER SOURCES: stops if CMake configured FOLDER for sources that are not SOURCES.
+# check_build_folder FOLDER SOURCES: stops if CMake configured FOLDER for sources elsewhere.
 check_build_folder() {
   local sources
   sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$1/CMakeCache.txt" 2> /dev/null || true)
@@ -38,7 +38,8 @@ show_ninja() {
 }
 
 # logged LOG COMMAND...: runs COMMAND with its output in LOG. If it fails, prints the end of LOG and
-# stops. COMMAND may be a function: the subshell has a `set -e` that no surrounding condition undoes.
+# stops. COMMAND may be a function: the subshell has a `set -e` that no surrounding condition
+# undoes.
 logged() {
   local log=$1 status progress
   shift

@@ -4,7 +4,7 @@
 # Installs the Debian packages that are missing for it.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
-. "$top/tools/steps.sh"
+. "$top/tools/steps.inc.sh"
 out=$top/build/packages
 
 "$top/tools/install-packages.sh" build-essential cmake debhelper dh-python libicu-dev python3
@@ -17,7 +17,7 @@ tar -C "$top" --exclude=./build --exclude=./.git -c . | tar -C "$source" -x
 cp -r "$source/tools/debian" "$source/debian"
 # What is built does not depend on the day: the build takes its date from the changelog, and files
 # that are copied into the packages keep theirs.
-date=$("$top/tools/source-date")
+date=$("$top/tools/source-date.sh")
 sed "s/@VERSION@/$version/; s/@DATE@/$(LC_ALL=C date -u -R -d "@$date")/" \
   "$source/debian/changelog.in" > "$source/debian/changelog"
 find "$source" -exec touch -h -d "@$date" {} +
