@@ -1,3 +1,4 @@
+// A row of the table of counted calls, which is Calls.cpp.
 #ifndef ZRSTRING_BENCHMARKS_CALLS_H
 #define ZRSTRING_BENCHMARKS_CALLS_H
 

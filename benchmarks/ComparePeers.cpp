@@ -13,7 +13,7 @@
 #include "Peers.h"
 
 // Times what users do with strings, with this library's and with its peers. Every benchmark is
-// named "row|peer"; report.py makes the table and the picture of a run's output.
+// named "row|peer"; report-peers.py makes the tables and the picture from a run's output.
 
 namespace {
 

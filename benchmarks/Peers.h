@@ -1,3 +1,4 @@
+// The operations that are timed, as a user of each string class writes them.
 #ifndef ZRSTRING_BENCHMARKS_PEERS_H
 #define ZRSTRING_BENCHMARKS_PEERS_H
 

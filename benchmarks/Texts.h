@@ -1,3 +1,4 @@
+// The texts on which the counted calls work, for ICU and for the library.
 #ifndef ZRSTRING_BENCHMARKS_TEXTS_H
 #define ZRSTRING_BENCHMARKS_TEXTS_H
 

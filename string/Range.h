@@ -10,7 +10,7 @@
 
 #include "string/CodeUnits.h"
 
-/// The length with -1 resolved, to the greatest length: ICU clamps every range of a string, so the
+/// The length with -1 replaced by the greatest length: ICU clamps every range of a string, so the
 /// string's own length need not be looked up.
 constexpr std::int32_t Resolved(ZRLong length) { return length == kZRToEnd ? INT32_MAX : length; }
 

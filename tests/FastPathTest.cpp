@@ -68,8 +68,8 @@ const Text kUnits =
 
 }  // namespace
 
-// A difference at each place of texts of up to three blocks of every size, from an even and an odd
-// unit on. The letters around it are ASCII or not.
+// A difference at each place of texts of up to three blocks of every size, starting at an even and
+// at an odd unit. The letters around it are ASCII or not.
 TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
   std::mt19937 random;
   for (const char16_t letter : {u'x', u'\u03B1'})

@@ -15,7 +15,7 @@ namespace {
 constexpr ZRLong kLength = 0x7FFFFFF0, kLimit = 0x7FFFFFF6;  // ICU leaves room for 6 units more
 constexpr std::size_t kHuge = std::size_t{1} << 30;
 
-int asked = 0;  // how often ICU wanted more than 1 GiB while it had it already
+int asked = 0;  // how often ICU asked for 1 GiB or more while it held such a block
 void* reserved = nullptr;
 std::size_t reservedSize = 0;
 

@@ -115,8 +115,8 @@ TEST(Interop, EveryShortSequenceOfTheEdgesOfTheClasses) {
   ForEachSequence(u"\0\x7F\x80\u07FF\u0800\uD7FF\xD800\xDBFF\xDC00\xDFFF\uE000\uFFFF"s, 4, agrees);
 }
 
-// Texts are converted in pieces and blocks. Cuts split characters, too. Letters after wider
-// characters make a text smaller than its beginning lets expect.
+// Texts are converted in pieces and blocks, and cuts may split characters. Letters after wider
+// characters make a text smaller than its beginning suggests.
 TEST(Interop, EveryPlaceAndLength) {
   const std::string parts[] = {"a", "\u00E9", "\u4E2D", "\U0001F600", "a\xE4", "\xFF"};
   for (const std::string& part : parts)

@@ -103,7 +103,8 @@ check_run() {
   done
 }
 
-[[ "${1:-trixie} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] || die "wrong: $*"
+[[ "${1:-trixie} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] ||
+  die "usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]"
 for codename in ${1:-bookworm trixie}; do
   bare=$work/$codename logs=$top/build/bare-systems/$codename
   logged "$logs/make.log" make_debian "$codename" "$bare"

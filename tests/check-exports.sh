@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Compares the exports of a shared library (ELF or PE) with the promised ones, in both directions. A
-# name that came after 1.0.0 has its symbol version behind it.
+# name that came after 1.0.0 is followed by its symbol version.
 # usage: check-exports.sh LIBRARY [--update]
 # --update writes exports-cpp.txt, from a library for Linux. exports-plain.txt is written by hand.
 set -euo pipefail
@@ -20,7 +20,7 @@ else
   readelf -h "$1" | grep -q ELF32 || long=int
 fi
 
-# Which members of the vector there are depends on the standard library: one name stands for all.
+# The members of the vector depend on the standard library: one name represents all.
 exported=$(c++filt <<< "$exported" |
   sed -E "s/\<unsigned $long\>/ZRULong/g; s/\<$long\>/ZRLong/g; s/__cxx11:://g
     s/^std::vector<ZRString\*, std::allocator<ZRString\*> >::.*/std::vector<ZRString*>::*/" |
@@ -28,7 +28,7 @@ exported=$(c++filt <<< "$exported" |
 [ "${2-}" != --update ] || grep -vxE '\w+( ZRSTRING_.*)?' <<< "$exported" > "$here/exports-cpp.txt"
 promised=$(sort "$here"/exports-{plain,cpp}.txt)
 if ! diff <(grep -v "$unpromised" <<< "$promised" | sed "s/$unversioned//") - <<< "$exported"; then
-  echo "'<' is promised and missing, '>' is exported and not promised" >&2
+  echo "'<' is promised and not exported, '>' is exported and not promised" >&2
   exit 1
 fi
 [ "$(grep -v ' ZRSTRING_' <<< "$promised" | cksum)" = "4059438372 15772" ] || {

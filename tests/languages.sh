@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the programs of examples/languages/ with the installed library, or those of the languages
-# that are named, and compares what they print with docs/languages.md. Looks that they destroy all
-# that they create, and tries the declarations of all functions. Installs the Debian packages that
-# are missing; skips a language whose compiler cannot be had. Takes a minute.
+# that are named, and compares what they print with docs/languages.md. Checks that they destroy all
+# objects that they create, and checks the declarations of all functions. Installs the Debian
+# packages that are missing; skips a language whose compiler cannot be installed. Takes a minute.
 # usage: tests/languages.sh [rust|go|csharp]...
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -52,7 +52,7 @@ logged "$build/library.log" install_library
 export LD_LIBRARY_PATH=$build/prefix/lib PKG_CONFIG_PATH=$build/prefix/lib/pkgconfig
 [ $# -gt 0 ] || set -- rust go csharp
 for language; do
-  "get_$language" || { say "$language: SKIPPED: there is no compiler"; continue; }
+  "get_$language" || { say "$language: SKIPPED: its compiler cannot be installed"; continue; }
   say "$language"
   rm -rf "${build:?}/$language"
   mkdir "$build/$language"
@@ -61,5 +61,5 @@ for language; do
   "$top/docs/check-page.py" "$top/docs/languages.md" \
     env ALIVE=alive LD_PRELOAD="$build/alive.so" ./program
   counts=$(od -An -td4 alive)
-  [[ $counts =~ ^\ *[1-9][0-9]*\ +0$ ]] || die "objects made, and never destroyed: $counts"
+  [[ $counts =~ ^\ *[1-9][0-9]*\ +0$ ]] || die "objects that were created, and left alive: $counts"
 done

@@ -74,7 +74,7 @@ def csharp_function(function):
 
 RUST_BLOCK = '\n#[rustfmt::skip]\n#[link(name = "ZRString")]\nextern "C" {\n'
 
-# For each file the functions that write a constant and a function, and what stands around the
+# For each file the functions that write a constant and a function, and the text around the
 # functions.
 FILES = {
     "rust/handles.rs": (rust_constant, rust_function, RUST_BLOCK, "}\n"),
@@ -85,7 +85,7 @@ MARK = "// Written by tools/write-derived.py from here on: edit ZRStringHandles.
 
 
 def files(folder, functions, constants):
-    """The text of each file of declarations: what stands there up to the mark, and what follows."""
+    """The text of each file of declarations: what is written by hand up to the mark, and the rest."""
     for function in functions:
         for kind, name in function.parameters:
             if kind not in TYPES:

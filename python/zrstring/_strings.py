@@ -22,7 +22,7 @@ else:
     _SequenceOfUnits = object
 
 MAX_LENGTH = 0x7FFFFFF5  # of a text, in units: for longer ones ICU writes outside its storage
-_SMALL = 2**14  # units. Memory for so much is not looked for beforehand.
+_SMALL = 2**14  # units. Up to here, free memory is not checked beforehand.
 
 # What `options` of BaseString.icompare() may be.
 IGNORE_CASE, IGNORE_CASE_TURKIC, IGNORE_CASE_CODE_POINT_ORDER, COLLATED = range(4)
@@ -105,7 +105,7 @@ def _indices(start: Any, stop: Any, length: int, prefix: str = "") -> Tuple[int,
 
 
 def _is_slice(start: Any, stop: Any, length: int) -> bool:
-    """Whether [start:stop] is a slice of a text of `length` units, if perhaps an empty one."""
+    """Whether [start:stop] is a slice of a text of `length` units, possibly an empty one."""
     first, limit, _ = slice(start, stop).indices(length)
     return first <= limit and (start is None or operator.index(start) <= length)
 
@@ -618,7 +618,7 @@ class MutableString(BaseString):
 
     @classmethod
     def from_handle(cls: Type[_M], handle: object) -> _M:
-        """The mutable string of C or C++ that the handle stands for: edits show on both sides.
+        """The mutable string of C or C++ that the handle refers to: edits show on both sides.
 
         `handle` is a capsule (PyCapsule) with a `ZRMutableStringRef__*` and the name of that
         structure, which this object keeps alive, or such a pointer of zrstring.handles. The string

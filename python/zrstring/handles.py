@@ -18,7 +18,7 @@ for any other status.
 Arguments of a wrong type raise TypeError, numbers that do not fit ValueError. What C cannot check
 is not checked here either: memory must be as large as its ranges say, and a handle must not be
 used after its object is destroyed. A destroy function sets the handle that it gets to null, and
-refuses the handles of the package's own objects, which may stand for handles everywhere else.
+refuses the handles of the package's own objects, which are accepted as handles everywhere else.
 """
 
 import ctypes

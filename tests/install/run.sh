@@ -31,7 +31,7 @@ check_program() {
   [[ $needed == *'[libZRString.so.1]'* && ${needed,,} != *icu* ]] || die "$1 needs $needed"
 }
 
-# compile STANDARD OPTION...: as outside programs are compiled that ask pkg-config for the library.
+# compile STANDARD OPTION...: compiles as an outside program that asks pkg-config for the library.
 compile() {
   local compiler=("$CC")
   [[ $1 != c++* ]] || compiler=("$CXX" $CXXFLAGS)
@@ -47,16 +47,18 @@ check_installed Runtime --component Runtime
 check_installed 'Runtime|Development'
 cp -a "$installed" "$prefix"
 DESTDIR=$work/stage logged "$work/install.log" "$CMAKE" --install "$BUILD" --prefix /usr
-# What else was installed from this build folder stays, and so does its record.
+# Other installations from this build folder stay, and so does the record of their files.
 sed -i -e "\|^$work/|w $work/installed.txt" -e "\|^$work/|d" "$BUILD/installed.txt"
 in_the_way=$work/stage/usr/include/ZRString/ZRTypes.h
 rm "$in_the_way" && mkdir "$in_the_way"
 uninstall=(env -C "$work" "$CMAKE" -P "$top/cmake/Uninstall.cmake")
-! "${uninstall[@]}" > "$work/uninstall.log" 2>&1 || die "a file that stays does not fail uninstalling"
+! "${uninstall[@]}" > "$work/uninstall.log" 2>&1 ||
+  die "uninstalling succeeds although it cannot remove $in_the_way"
 grep -qxF "    $in_the_way" "$work/uninstall.log" || die "$work/uninstall.log: no file named"
 rmdir "$in_the_way"
 logged "$work/uninstall.log" "${uninstall[@]}"
-left=$(find "$installed" "$work/stage" ! -type d -o -name ZRString -o -name Velmar -o -path '*/auto-load/*')
+left=$(find "$installed" "$work/stage" \
+  ! -type d -o -name ZRString -o -name Velmar -o -path '*/auto-load/*')
 [ -z "$left" ] || die "uninstalling left $left"
 ! readelf -d "$prefix/$LIBDIR/libZRString.so" | grep -E '\(R(UN)?PATH' || die "a search path is set"
 ! grep -rF "$BUILD" "$prefix/$LIBDIR"/{cmake,pkgconfig} || die "these name the build folder"
@@ -93,7 +95,8 @@ for header in $(cd "$prefix/include" && find . -name '*.h' -printf '%P\n'); do
     [[ $header =~ $plain && -n $(command -v clang) ]] || continue
     for system in linux-gnu windows-msvc; do
       CC=clang CXX=clang++ CXXFLAGS='' compile $standard -Wconversion -fsyntax-only - \
-        "--target=x86_64-pc-$system" <<< "#include <$header>" || die "$header, as $standard, $system"
+        "--target=x86_64-pc-$system" <<< "#include <$header>" ||
+        die "$header, as $standard, for $system"
     done
   done
 done
@@ -101,6 +104,7 @@ done
 say "as part of another project"
 logged "$work/parent.log" "$CMAKE" -S "$tests/parent" -B "$work/parent" -DBUILD_SHARED_LIBS=OFF \
   -DCMAKE_C_COMPILER="$CC" -DCMAKE_CXX_COMPILER="$CXX" -DCMAKE_INSTALL_PREFIX="$work/parents"
-[ "$(grep -c BUILD_SHARED_LIBS=OFF "$work/parent.log")" = 1 ] || die "$work/parent.log: one answer"
+[ "$(grep -c BUILD_SHARED_LIBS=OFF "$work/parent.log")" = 1 ] ||
+  die "$work/parent.log must say once that BUILD_SHARED_LIBS has no effect"
 logged "$work/parent-install.log" "$CMAKE" --install "$work/parent"
 [ ! -e "$work/parents" ] || die "ZRString installs itself with another project"

@@ -1,5 +1,5 @@
-// Preloaded: counts what `operator new` made and what is alive of it, in the file $ALIVE. Programs
-// in Go end without calling destructors, so that the counts must be in a file all the time.
+// Preloaded: writes to the file $ALIVE how many objects `operator new` made and how many are alive.
+// All the time, because programs in Go end without calling destructors.
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>

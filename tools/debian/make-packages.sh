@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Makes the Debian packages libzrstring1, libzrstring-dev, libzrstring1-dbgsym and python3-zrstring
-# in build/packages.
-# Installs the Debian packages that are missing for it.
+# in build/packages. Installs the Debian packages that are missing for that.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 . "$top/tools/steps.inc.sh"

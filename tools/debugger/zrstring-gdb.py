@@ -142,7 +142,7 @@ class StringHandlePrinter:
 
 
 class ArrayPrinter:
-    """For an array, whose vector begins with two pointers: to the first entry and behind the last.
+    """For an array, whose vector begins with two pointers: to the first entry and past the last.
 
     `entry_type` is ZRString*, or None if GDB does not know that type.
     """

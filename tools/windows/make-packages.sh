@@ -44,15 +44,15 @@ show_progress() {
   done 2> /dev/null
 }
 
-# Only one run at a time builds them. The lock goes with the command that holds it: --close keeps it
-# from all that the command starts.
+# Only one run at a time builds them. The lock ends with the command: --close keeps processes that
+# the command starts from inheriting it.
 locked() { flock --close "$cache/lock" nice "$@"; }
 
 say "ICU for $arch: building what has changed"
 show_progress &
 progress=$!
 trap 'kill "$progress" 2> /dev/null || true' EXIT
-# By way of a link, so that all checkouts use the same build.
+# Through a link, so that all checkouts use the same build.
 locked ln -sfn "$top" "$cache/checkout"
 logged "$cache/configure.log" locked cmake -G 'Unix Makefiles' \
   -S "$cache/checkout/tools/windows/dependencies" -B "$cache"

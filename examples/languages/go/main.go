@@ -81,7 +81,7 @@ func (t *Text) Find(pattern *Text, start int32) (int32, error) {
 	return index, check("ZRStringFind", status)
 }
 
-// EqualFold tells whether two strings are equal but for case.
+// EqualFold reports whether two strings are equal but for case.
 func (t *Text) EqualFold(other *Text) (bool, error) {
 	var order int32
 	status := zr.ZRStringICompare(t.handle, 0, zr.ZRToEnd, other.handle, 0, zr.ZRToEnd,
