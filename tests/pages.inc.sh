@@ -11,7 +11,7 @@ write_programs() {
   done
   cp "$top/docs/snippets/road.c" "$1/"
   # shellcheck disable=SC2016 # the marks of a block of code, not commands
-  sed -n '/{#output}/,/{#layers}/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
+  sed -n '/^### Output/,/^## Layers/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
   {
     printf '#include <%s>\n' cassert ZRString/ZRString{Mutator,PtrArray}.h
     echo 'int main() {'
