@@ -68,16 +68,18 @@ def system(run):
 
 
 def picture(rows):
-    """Each peer's time over ZRString's as a mark on a logarithmic axis, a line for each row."""
+    """Each peer's time over ZRString's as a mark on a logarithmic axis, below the name of its row, so
+    that the picture can be read on a phone. It has a background: on a page's own, dark or light, no
+    one grey is legible."""
     ratios = {row: {peer: time / times["ZRString"] for peer, time in times.items()}
               for row, times in rows.items() if not row.startswith(HEAP)}
     flat = [ratio for peers in ratios.values() for ratio in peers.values()]
     low, high = math.log10(min(flat)) - 0.08, math.log10(max(flat)) + 0.08
-    left, right, top, step = 292, 20, 64, 22
-    width, bottom = 760, top + step * len(ratios)
+    margin, top, step = 16, 72, 37
+    width, bottom = 440, top + step * len(ratios)
 
     def x(ratio):
-        return left + (width - left - right) * (math.log10(ratio) - low) / (high - low)
+        return margin + (width - 2 * margin) * (math.log10(ratio) - low) / (high - low)
 
     def mark(peer, cx, cy):
         number = PEERS.index(peer)
@@ -88,26 +90,27 @@ def picture(rows):
         return f'{shapes[number]} fill="{COLOURS[number]}"/>'
 
     parts = [
-        f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {bottom + 34}" '
+        f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{bottom + 34}" '
+        f'viewBox="0 0 {width} {bottom + 34}" '
         'font-family="Helvetica, Arial, sans-serif" font-size="13">',
         "<title>Time of each peer over that of ZRString</title>",
-        # Grey that can be read on white and on black: pages choose their background themselves.
-        "<style>text{fill:#777}line{stroke:#777;stroke-opacity:.35}"
-        ".one{stroke:#e8590c;stroke-opacity:1}</style>"]
+        "<style>text{fill:#444}line{stroke:#ccc}.one{stroke:#e8590c}</style>",
+        '<rect width="100%" height="100%" fill="#fff"/>']
     for number, label in enumerate(LABELS):
-        parts += [mark(PEERS[number], 40 + 130 * number, 16),
-                  f'<text x="{52 + 130 * number}" y="20">{label}</text>']
+        parts += [mark(PEERS[number], 20 + 104 * number, 16),
+                  f'<text x="{30 + 104 * number}" y="20">{label}</text>']
     for ratio in [0.1, 0.2, 0.5, 1, 2, 5, 10, 20, 50, 100]:
         if low <= math.log10(ratio) <= high:
             one = ' class="one"' if ratio == 1 else ""
-            parts += [f'<line{one} x1="{x(ratio):.1f}" y1="{top - 14}" x2="{x(ratio):.1f}" '
+            parts += [f'<line{one} x1="{x(ratio):.1f}" y1="{top - 22}" x2="{x(ratio):.1f}" '
                       f'y2="{bottom - 6}"/>',
-                      f'<text x="{x(ratio):.1f}" y="{top - 20}" text-anchor="middle">'
+                      f'<text x="{x(ratio):.1f}" y="{top - 28}" text-anchor="middle">'
                       f"{ratio:g}×</text>"]
     for number, (row, peers) in enumerate(ratios.items()):
         y = top + step * number
-        parts.append(f'<text x="{left - 12}" y="{y + 4}" text-anchor="end">{row}</text>')
-        parts += [mark(peer, x(peers[peer]), y) for peer in reversed(PEERS) if peer in peers]
+        parts.append(f'<text x="{margin}" y="{y - 3}" stroke="#fff" stroke-width="4" '
+                     f'paint-order="stroke">{row}</text>')
+        parts += [mark(peer, x(peers[peer]), y + 7) for peer in reversed(PEERS) if peer in peers]
     parts += [f'<text x="{x(1) - 8:.1f}" y="{bottom + 16}" text-anchor="end">← faster</text>',
               f'<text x="{x(1) + 8:.1f}" y="{bottom + 16}">slower than ZRString →</text>', "</svg>"]
     return "\n".join(parts) + "\n"
