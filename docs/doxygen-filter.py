@@ -60,6 +60,8 @@ def page(text, name):
         part = re.sub(r"(?<![\w#])(kZR|ZR_TO)", r"#\1", part)
         part = re.sub(r"^(#+) (.*)$", lambda m: labelled(m, name, contents), part, flags=re.M)
         parts[2 * i] = part
+    # Doxygen takes a single backtick and an apostrophe for quotation marks.
+    parts[1::2] = [re.sub(r"^`(.*'.*)`$", r"``\1``", code) for code in parts[1::2]]
     return "".join(parts)
 
 
