@@ -134,7 +134,7 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const ZRString& oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const ZRString& newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  if (&oldText == this || &newText == this)
+  if ((&oldText == this || &newText == this) && TextOf(body_).getBuffer())
     return ReplaceAllByItself(*this, start, length, oldText, oldStart, oldLength, newText, newStart,
                               newLength);
   CopyOnWrite();
@@ -147,7 +147,7 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const unsigned short* oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const ZRString& newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  if (&newText == this) {
+  if (&newText == this && TextOf(body_).getBuffer()) {
     const ZRString before(*this);
     return FindAndReplace(start, length, oldText, oldStart, oldLength, before, newStart, newLength);
   }
@@ -162,7 +162,7 @@ ZRStringMutator& ZRStringMutator::FindAndReplace(ZRLong start, ZRLong length,
                                                  const ZRString& oldText, ZRLong oldStart,
                                                  ZRLong oldLength, const unsigned short* newText,
                                                  ZRLong newStart, ZRLong newLength) {
-  if (&oldText == this) {
+  if (&oldText == this && TextOf(body_).getBuffer()) {
     const ZRString before(*this);
     return FindAndReplace(start, length, before, oldStart, oldLength, newText, newStart, newLength);
   }

@@ -26,6 +26,12 @@ signed char CompareWhole(const icu::UnicodeString& left, const icu::UnicodeStrin
   return left.compare(right);
 }
 
+/// Whether a raw pattern must be measured before ICU gets it: ICU 72 takes a pattern of 2^31 units
+/// for one of a negative length.
+bool MustBeMeasured(const unsigned short* pattern, ZRLong start, ZRLong length) {
+  return length < 0 && pattern && start >= 0;
+}
+
 /// Index of the first occurrence of `pattern` in `range`, counted from the start of `text`.
 ZRLong IndexIn(const icu::UnicodeString& text, Units range, Units pattern) {
   const std::int32_t place = IndexOf(range, pattern);
@@ -165,7 +171,10 @@ ZRLong ZRString::Find(const unsigned short* pattern, ZRLong patternStart, ZRLong
   const Units range = UnitsOf(TextOf(body_), start, length);
   if (range.first && pattern && patternStart >= 0 && patternLength > 0)
     return IndexIn(TextOf(body_), range, {ToIcu(pattern) + patternStart, patternLength});
-  return TextOf(body_).indexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+  if (MustBeMeasured(pattern, patternStart, patternLength))
+    return Find(pattern, patternStart, TerminatedLength(ToIcu(pattern + patternStart)), start,
+                length);
+  return TextOf(body_).indexOf(ToIcu(pattern), patternStart, patternLength, start,
                                Resolved(length));
 }
 
@@ -177,7 +186,10 @@ ZRLong ZRString::RFind(const ZRString& pattern, ZRLong patternStart, ZRLong patt
 
 ZRLong ZRString::RFind(const unsigned short* pattern, ZRLong patternStart, ZRLong patternLength,
                        ZRLong start, ZRLong length) const noexcept {
-  return TextOf(body_).lastIndexOf(ToIcu(pattern), patternStart, RawLength(patternLength), start,
+  if (MustBeMeasured(pattern, patternStart, patternLength))
+    return RFind(pattern, patternStart, TerminatedLength(ToIcu(pattern + patternStart)), start,
+                 length);
+  return TextOf(body_).lastIndexOf(ToIcu(pattern), patternStart, patternLength, start,
                                    Resolved(length));
 }
 

@@ -48,6 +48,8 @@ inline bool MaySplitPair(Units pattern) {
 
 /// As ICU's indexOf(), for a pattern that is not empty.
 inline std::int32_t IndexOf(Units text, Units pattern) {
+  if (pattern.count > text.count)
+    return -1;
   if (!MaySplitPair(pattern))
     return IndexOfWhole(text, pattern);
   const char16_t* const found =

@@ -25,6 +25,14 @@ namespace {
   return true;
 }
 
+/// SetTo() with units whose number had to be measured, or is great.
+[[gnu::noinline, gnu::cold]] void SetToUnlessTooLong(icu::UnicodeString& text, Units units) {
+  if (units.count > kMaxLength)
+    text.setToBogus();
+  else
+    text.setTo(units.first, units.count);
+}
+
 }  // namespace
 
 void ReplaceUnlessTooLong(icu::UnicodeString& text, ZRLong start, ZRLong length, Units added) {
@@ -79,8 +87,8 @@ ZRStringMutator& ZRStringMutator::SetTo(const ZRString& source, ZRLong start, ZR
 
 ZRStringMutator& ZRStringMutator::SetTo(const unsigned short* text, ZRLong length) {
   CopyOnWrite();
-  if (length > kMaxLength && text)
-    TextOf(body_).setToBogus();
+  if (static_cast<std::uint32_t>(length) > kMaxLength)
+    SetToUnlessTooLong(TextOf(body_), MeasuredUnits(text, 0, length));
   else
     TextOf(body_).setTo(ToIcu(text), length);
   return *this;

@@ -13,6 +13,7 @@ static void ExpectNoText(ZRStringMutator& string) {
   EXPECT_FALSE(string.Insert(0, other, 0, kZRToEnd).GetBuffer());
   EXPECT_FALSE(string.Insert(0, Raw(u"x"), 0, 1).GetBuffer());
   EXPECT_FALSE(string.Replace(0, 1, other, 0, kZRToEnd).GetBuffer());
+  EXPECT_FALSE(string.FindAndReplace(0, -1, string, 0, -1, other, 0, -1).GetBuffer());
   EXPECT_FALSE(string.RemoveBetween(0, INT32_MAX).GetBuffer());
   EXPECT_FALSE(string.Remove(0, kZRToEnd).GetBuffer());
   EXPECT_FALSE((string.SetCharAt(0, 'x').Trim() += 'x').GetBuffer());

@@ -228,6 +228,11 @@ TEST(Interop, OperatorsWithCharacters) {
   EXPECT_EQ((((sum = u""_zr) += unit + 1) += 65) += u'\uFFFF', u"bA\uFFFF");
   EXPECT_EQ('\x80' + (U'\x10000' + (u"a"_zr + 'b')) + U'c' + u'd' + 65, u"\u20AC\U00010000abcdA");
   EXPECT_FALSE((std::is_invocable_v<std::plus<>, ZRString, double>));
+  const auto append = [](auto&& string) -> decltype(std::forward<decltype(string)>(string) += 'x') {
+    return string += 'x';
+  };
+  EXPECT_TRUE((std::is_invocable_v<decltype(append), ZRStringMutator>));
+  EXPECT_FALSE((std::is_invocable_v<decltype(append), ZRString>));  // would edit a copy
   EXPECT_FALSE((std::is_invocable_v<std::plus<>, float, ZRStringMutator>));
 }
 

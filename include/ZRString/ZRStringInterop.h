@@ -270,7 +270,8 @@ struct ZRStringLess {
 
 /// @name Operators
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
-/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy.
+/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy,
+/// except that an operand in ICU's error state counts as empty.
 /// @{
 
 /// `left` followed by `right`.
@@ -350,7 +351,8 @@ bool operator>=(const Text& left, const ZRString& right) {
 /// view, whose units must live as long as it is used.
 class CodePoints {
  public:
-  /// Points to a character; invalid once its CodePoints is destroyed.
+  /// Points to a character; invalid once its CodePoints is destroyed or the units of the string
+  /// move, as ZRString::GetBuffer() says.
   class iterator {
    public:
     /// @cond
@@ -408,13 +410,19 @@ class CodePoints {
   /// Of a view.
   explicit CodePoints(std::u16string_view text) : text_(text) {}
 
-  iterator begin() const { return {text_, 0}; }                        ///< The first one.
-  iterator end() const { return {text_, text_.size()}; }               ///< Behind the last.
+  /// Not copied: it may hold a string.
+  CodePoints(const CodePoints&) = delete;
+  CodePoints& operator=(const CodePoints&) = delete;
+
+  iterator begin() const { return {Text(), 0}; }                       ///< The first one.
+  iterator end() const { return {Text(), text_.size()}; }              ///< Behind the last.
   reverse_iterator rbegin() const { return reverse_iterator(end()); }  ///< The last one.
   reverse_iterator rend() const { return reverse_iterator(begin()); }  ///< Before the first.
 
  private:
-  std::optional<ZRString> string_;  // keeps the units alive
+  std::u16string_view Text() const { return string_ ? Utf16View(*string_) : text_; }
+
+  std::optional<ZRString> string_;  // keeps the units alive, which may move
   std::u16string_view text_;
 };
 
@@ -444,8 +452,9 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// @name Short forms
 /// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
-/// for may also be a single unit, a `char16_t` or `unsigned short`. A text that cannot be read is
-/// empty.
+/// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer is
+/// empty, and so is one in ICU's error state, which however begins and ends with nothing, and replaces
+/// nothing.
 /// @{
 
 /// Index of the first occurrence of `part` from the unit `from` on; -1 (#kZRNotFound) if there is

@@ -261,6 +261,12 @@ template <typename Type>
 using IfCharacter =
     std::enable_if_t<std::is_same_v<Type, char32_t> || std::is_same_v<Type, char>, int>;
 
+// A mutator that is no variable, but nothing that would only be converted to one.
+template <typename Type>
+using IfTemporary = std::enable_if_t<!std::is_reference_v<Type> && !std::is_const_v<Type> &&
+                                         std::is_base_of_v<ZRStringMutator, Type>,
+                                     int>;
+
 template <typename Type>
 using IfFloating = std::enable_if_t<std::is_floating_point_v<Type>, int>;
 
@@ -292,8 +298,9 @@ inline ZRStringMutator& operator+=(ZRStringMutator& left, Character right) {
 }
 
 /// Appends a character to a temporary string.
-template <typename Character, ZRStringMutatorDetail::IfCharacter<Character> = 0>
-inline ZRStringMutator& operator+=(ZRStringMutator&& left, Character right) {
+template <typename Temporary, typename Character, ZRStringMutatorDetail::IfTemporary<Temporary> = 0,
+          ZRStringMutatorDetail::IfCharacter<Character> = 0>
+inline ZRStringMutator& operator+=(Temporary&& left, Character right) {
   return ZRStringMutatorDetail::Append(left, right);
 }
 
@@ -317,8 +324,9 @@ inline ZRStringMutator operator+(Character left, const ZRString& right) {
 template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
 void operator+=(ZRStringMutator& left, Number right) = delete;  ///< A number is not a unit.
 
-template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
-void operator+=(ZRStringMutator&& left, Number right) = delete;  ///< A number is not a unit.
+template <typename Temporary, typename Number, ZRStringMutatorDetail::IfTemporary<Temporary> = 0,
+          ZRStringMutatorDetail::IfFloating<Number> = 0>
+void operator+=(Temporary&& left, Number right) = delete;  ///< A number is not a unit.
 
 template <typename Number, ZRStringMutatorDetail::IfFloating<Number> = 0>
 void operator+(const ZRString& left, Number right) = delete;  ///< A number is not a unit.
