@@ -2,8 +2,18 @@
 # Sourced by tests, with the project's folder in $top: what the project shows and promises.
 : "${top:?}"
 
+# commented HEADER...: a program of the code in the comments of public headers, a block for each.
+commented() {
+  printf '#include <%s>\n' assert.h "${@/#/ZRString/}"
+  echo 'int main(void) {'
+  (cd "$top/include/ZRString" &&
+    sed -n '/^ *\/\/\/ @code/,/^ *\/\/\/ @endcode$/s/^ *\/\/\/ \{0,1\}//p' "$@") |
+    sed 's/^@code.*/{/; s/^@endcode$/}/'
+  printf '%s\n' 'return 0;' '}'
+}
+
 # write_programs FOLDER: the programs of the README, the first one of the pages, and the code in the
-# comments of the classes; and in NAME.txt what program NAME prints.
+# comments of the headers; and in NAME.txt what program NAME prints.
 write_programs() {
   local kind
   for kind in c cpp text; do
@@ -12,14 +22,10 @@ write_programs() {
   cp "$top/docs/snippets/road.c" "$1/"
   # shellcheck disable=SC2016 # the marks of a block of code, not commands
   sed -n '/^### Output/,/^## Layers/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
-  {
-    printf '#include <%s>\n' cassert ZRString/ZRString{Mutator,PtrArray}.h
-    echo 'int main() {'
-    sed -n '/^\/\/\/ @code$/,/^\/\/\/ @endcode$/s/^\/\/\/ \{0,1\}//p' \
-      "$top"/include/ZRString/ZRString{,Mutator,PtrArray}.h | sed 's/^@code$/{/; s/^@endcode$/}/'
-    echo '}'
-  } > "$1/classes.cpp"
-  : > "$1/classes.txt"
+  commented ZRString.h ZRStringMutator.h ZRStringPtrArray.h > "$1/classes.cpp"
+  commented ZRStringInterop.h > "$1/interop.cpp"
+  commented ZRStringHandles.h ZRStringUtf8.h > "$1/handles.c"
+  : | tee "$1/classes.txt" "$1/interop.txt" > "$1/handles.txt"
 }
 
 # installed_files COMPONENTS PREFIX LIBDIR CONFIG: the files of install/files.txt for COMPONENTS, a

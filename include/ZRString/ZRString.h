@@ -93,6 +93,17 @@ class ZRStringHolderCount {
 /// number of threads may read them while none does any of these.
 class ZR_API ZRString {
  public:
+  /// @name Creation
+  /// @code
+  /// const unsigned short units[] = {'b', 'a', 'n', 'a', 'n', 'a', 0};
+  /// const ZRString banana(units);  // up to the zero unit
+  /// assert(banana == ZRString("banana", 0, kZRToEnd));           // from windows-1252 bytes
+  /// assert(ZRString(banana, 2) == ZRString(units, 2));           // "ba": a length
+  /// assert(ZRString(banana, 2, 3) == ZRString("nan", 0, 3));     // a start and a length
+  /// assert(ZRString(banana).GetBuffer() == banana.GetBuffer());  // a copy shares the units
+  /// @endcode
+  /// @{
+
   /// Holds the units of `text` up to its terminating zero unit; none if `text` is null.
   ZRString(const unsigned short* text);
 
@@ -137,6 +148,19 @@ class ZR_API ZRString {
 
   /// Gives up this string's share of its body. The last holder destroys the body.
   ZR_INLINE virtual ~ZRString();
+
+  /// @}
+
+  /// @name Comparison
+  /// @code
+  /// const ZRString name("Stra\337e", 0, kZRToEnd);  // windows-1252
+  /// const ZRString sign("STRASSE", 0, kZRToEnd);
+  /// assert(name != sign && sign < name);
+  /// assert(name.Compare(0, 1, sign, 0, 1) == 0);
+  /// assert(name.CompareBetween(0, 0, sign, 0, 0) == 0);  // the same range: units 0 through 0
+  /// assert(name.ICompare(0, kZRToEnd, sign, 0, kZRToEnd, kZRCompareIgnoreCase) == 0);
+  /// @endcode
+  /// @{
 
   /// Whether the texts are equal. Does not read them if both strings hold the same body.
   bool operator==(const ZRString& other) const noexcept;
@@ -204,6 +228,19 @@ class ZR_API ZRString {
   signed char ICompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
                               ZRLong srcEnd, ZRULong options) const;
 
+  /// @}
+
+  /// @name Search
+  /// @code
+  /// const ZRString list("un, deux, un", 0, kZRToEnd);
+  /// const ZRString word("un", 0, kZRToEnd);
+  /// assert(list.StartsWith(word, 0, kZRToEnd) && list.EndsWith(word, 0, kZRToEnd));
+  /// assert(list.Find(word, 0, kZRToEnd, 1, kZRToEnd) == 10);  // from unit 1 to the end
+  /// assert(list.RFind(word, 0, kZRToEnd, 0, 10) == 0);        // in the first ten units
+  /// assert(list.LastIndexOf(',') == 8 && list.LastIndexOf(';') == kZRNotFound);
+  /// @endcode
+  /// @{
+
   /// Whether this whole string begins with a range of `src`. 1 for an empty range.
   unsigned char StartsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const noexcept;
 
@@ -245,6 +282,20 @@ class ZR_API ZRString {
   /// surrogate pair is not found inside a pair.
   ZRLong LastIndexOf(unsigned short unit) const noexcept;
 
+  /// @}
+
+  /// @name Units and handle
+  /// @code
+  /// const ZRString text("banana", 0, kZRToEnd);
+  /// assert(text.GetLength() == 6 && !text.IsEmpty());
+  /// assert(text[2] == 'n' && text.CharAt(6) == kZRNoUnit);
+  /// assert(text.GetBuffer()[5] == 'a');  // perhaps no zero unit follows
+  /// unsigned short part[4];
+  /// text.Extract(2, 3, part, 0);
+  /// assert(part[0] == 'n' && part[3] == 0);
+  /// @endcode
+  /// @{
+
   /// The unit at `index`; 0xFFFF (#kZRNoUnit) outside 0 .. GetLength() - 1.
   unsigned short CharAt(ZRLong index) const noexcept;
   unsigned short operator[](ZRLong index) const noexcept;  ///< As CharAt().
@@ -274,6 +325,8 @@ class ZR_API ZRString {
 
   /// This object's address as a handle, valid as long as the object lives.
   ZRStringRef__* GetZRStringRef() const noexcept;
+
+  /// @}
 
  protected:
   /// Gives up this string's body and shares that of `other`. Does nothing if both are the same.

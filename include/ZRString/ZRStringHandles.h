@@ -51,6 +51,21 @@ enum {
 };
 
 /// @name Immutable strings
+/// @code{.c}
+/// ZRStringRef__ *text, *part;
+/// ZRLong index, length;
+/// ZRLong status = ZRStringCreateFromCString("un, deux", 0, 8, &text);
+/// if (status == 0)
+///   status = ZRStringCreateCopyRange(text, 4, kZRToEnd, &part);
+/// if (status == 0)
+///   status = ZRStringFind(text, 0, kZRToEnd, part, &index);
+/// if (status == 0)
+///   status = ZRStringGetLength(part, &length);
+/// assert(status == 0 && index == 4 && length == 4);
+/// assert(ZRStringFind(text, -1, kZRToEnd, part, &index) == 5);  // the second parameter
+/// ZRStringDestroy(part);
+/// ZRStringDestroy(text);
+/// @endcode
 /// @{
 
 /// Creates a string from `length` units of `chars`, from `chars[start]` on; -1: up to the zero
@@ -188,6 +203,21 @@ ZR_API ZRLong ZR_CALL ZRStringLastIndexOf(ZRStringRef__* string, unsigned short 
 /// @name Mutable strings
 /// A mutable string's handle is also a string's handle, and may be cast to `ZRStringRef__*`: edits
 /// show through both, and either destroy function destroys the one object.
+/// @code{.c}
+/// ZRMutableStringRef__* text;
+/// unsigned short* units;
+/// ZRLong status = ZRMutableStringCreateFromCString("deux", 0, 4, &text);
+/// if (status == 0)
+///   status = ZRMutableStringSetUniCharAt(text, 0, 'f');
+/// if (status == 0)
+///   status = ZRMutableStringAppendUniChars(text, (const unsigned short[]){'!'}, 0, 1);
+/// if (status == 0)
+///   status = ZRMutableStringToUpper(text);
+/// if (status == 0)
+///   status = ZRStringGetBuffer((ZRStringRef__*)text, &units);
+/// assert(status == 0 && units[0] == 'F' && units[4] == '!');
+/// ZRMutableStringDestroy(text);
+/// @endcode
 /// @{
 
 /// Creates an empty mutable string.
@@ -390,6 +420,24 @@ ZR_API ZRLong ZR_CALL ZRMutableStringLastIndexOf(ZRMutableStringRef__* string, u
 /// An array stores handles of strings that it does not own; only ZRStringPtrArrayDeleteAll()
 /// destroys them. An index is tested after all pointers, and an index outside the array gives
 /// #kZRStatusIndexOutside.
+/// @code{.c}
+/// ZRStringPtrArrayRef__* words;
+/// ZRStringRef__ *word, *entry;
+/// ZRULong size;
+/// ZRLong status = ZRStringPtrArrayCreate(&words);
+/// if (status == 0)
+///   status = ZRStringCreateFromCString("un", 0, 2, &word);
+/// if (status == 0)
+///   status = ZRStringPtrArrayPushBack(words, word);
+/// if (status == 0)
+///   status = GetZRStringRefAt(words, 0, &entry);
+/// if (status == 0)
+///   status = ZRStringPtrArraySize(words, &size);
+/// assert(status == 0 && entry == word && size == 1);
+/// assert(SetZRStringRefAt(words, 1, word) == kZRStatusIndexOutside);
+/// ZRStringPtrArrayDeleteAll(words);  // destroys the string, too
+/// ZRStringPtrArrayDestroy(words);
+/// @endcode
 /// @{
 
 /// Creates an empty array.

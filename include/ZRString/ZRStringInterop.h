@@ -58,6 +58,15 @@
 /// as `char16_t`, and a view reads them as such. Pointers are converted behind a compiler barrier,
 /// as in ICU's own headers. A program that writes units through ZRStringMutator::GetBuffer() calls
 /// ReleaseBuffer(), which the compiler cannot see into, before it can take a view of them.
+///
+/// @code
+/// const ZRString name = FromUtf8("d\xC3\xA9j\xC3\xA0");
+/// assert(name == u"d\u00E9j\u00E0"_zr && ToUtf8(name).size() == 6);
+/// const std::u16string_view units = Utf16View(name);  // valid as long as `name`
+/// assert(units.size() == 4 && FromUtf16(units) == name);
+/// assert(std::hash<ZRString>()(name) == std::hash<ZRString>()(FromUtf16(units)));
+/// @endcode
+/// @since 1.1
 
 /// @cond
 namespace ZRStringInteropDetail {
@@ -272,6 +281,10 @@ struct ZRStringLess {
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
 /// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy,
 /// except that an operand in ICU's error state counts as empty.
+/// @code
+/// const ZRString name = u"un"_zr + u", deux";
+/// assert(name == u"un, deux" && name < u"une");
+/// @endcode
 /// @{
 
 /// `left` followed by `right`.
@@ -342,6 +355,15 @@ bool operator>=(const Text& left, const ZRString& right) {
 /// @name Characters
 /// A character is a code point. A surrogate pair is one; an unpaired surrogate is one, too, with
 /// its own value.
+/// @code
+/// const ZRString text = u"a\U0001F600b"_zr;  // four units, three characters
+/// assert(text.GetLength() == 4 && CodePointCount(text) == 3);
+/// assert(CodePointAt(text, 2) == U'\U0001F600');
+/// char32_t last = 0;
+/// for (const char32_t character : CodePoints(text))
+///   last = character;
+/// assert(last == U'b');
+/// @endcode
 /// @{
 
 /// The characters of a text, forward and backward:
@@ -455,6 +477,14 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer is
 /// empty, and so is one in ICU's error state, which however begins and ends with nothing, and replaces
 /// nothing.
+/// @code
+/// const ZRString list = u"un, deux, un"_zr;
+/// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));
+/// assert(PartsOf(list, u", ").size() == 3 && PartOf(list, 4, 4) == u"deux");
+/// assert(ReplacedAll(list, u"un", u'1') == u"1, deux, 1");
+/// assert(Joined(PartsOf(list, u", "), u'/') == u"un/deux/un");
+/// assert(UpperCase(Trimmed(u" deux ")) == u"DEUX");
+/// @endcode
 /// @{
 
 /// Index of the first occurrence of `part` from the unit `from` on; -1 (#kZRNotFound) if there is

@@ -52,6 +52,17 @@ enum ZRStringNormalizationMode : int {
 /// one thread at a time.
 class ZR_API ZRStringMutator : public ZRString {
  public:
+  /// @name Creation and assignment
+  /// @code
+  /// const ZRString source("banana", 0, kZRToEnd);
+  /// ZRStringMutator text(source);  // shares the units
+  /// ZRStringMutator part(source, 2, 3);
+  /// assert(text.GetBuffer() == source.GetBuffer() && part.GetLength() == 3);
+  /// part = text;  // shares them, too
+  /// assert(part.GetBuffer() == source.GetBuffer());
+  /// @endcode
+  /// @{
+
   ZRStringMutator();  ///< An empty string.
 
   ZRStringMutator(const UniStr255& record);                                  ///< As ZRString.
@@ -72,7 +83,7 @@ class ZR_API ZRStringMutator : public ZRString {
   /// handle.
   ZRStringMutator(ZRMutableStringRef__* handle);
 
-  ZR_INLINE ~ZRStringMutator() override;
+  ZR_INLINE ~ZRStringMutator() override;  ///< As the destructor of ZRString.
 
   /// Gives up this string's body and shares that of `other`. Copies no units.
   ZR_INLINE ZRStringMutator& operator=(const ZRStringMutator& other) noexcept;
@@ -84,11 +95,29 @@ class ZR_API ZRStringMutator : public ZRString {
   /// former body.
   ///
   /// A template only because no library exports one: it is compiled into the program.
+  /// @since 1.1
   template <typename Other, typename = std::enable_if_t<std::is_same_v<Other, ZRStringMutator>>>
   ZRStringMutator& operator=(Other&& other) noexcept {
     std::swap(body_, other.body_);
     return *this;
   }
+
+  /// @}
+
+  /// @name Edits
+  /// @code
+  /// const ZRString deux("deux", 0, kZRToEnd);
+  /// ZRStringMutator text(ZRString("un, trois", 0, kZRToEnd));
+  /// text.Insert(4, deux, 0, kZRToEnd).Insert(8, ZRString(", ", 0, 2), 0, kZRToEnd);
+  /// assert(text == ZRString("un, deux, trois", 0, kZRToEnd));
+  /// text.Replace(0, 2, deux, 0, kZRToEnd).RemoveBetween(4, 9) += '!';
+  /// assert(text == ZRString("deux, trois!", 0, kZRToEnd));
+  /// text.FindAndReplace(0, kZRToEnd, deux, 0, kZRToEnd, ZRString("2", 0, 1), 0, kZRToEnd);
+  /// assert(text == ZRString("2, trois!", 0, kZRToEnd));
+  /// text.SetTo(deux, 0, kZRToEnd).SetCharAt(0, 'D');
+  /// assert(text == ZRString("Deux", 0, kZRToEnd));
+  /// @endcode
+  /// @{
 
   /// Replaces the whole text by a range of `source`.
   ZRStringMutator& SetTo(const ZRString& source, ZRLong start, ZRLong length);
@@ -158,6 +187,21 @@ class ZR_API ZRStringMutator : public ZRString {
                                   ZRLong oldStart, ZRLong oldLength, const unsigned short* newText,
                                   ZRLong newStart, ZRLong newLength);
 
+  /// @}
+
+  /// @name Whole texts
+  /// @code
+  /// ZRStringMutator text(ZRString("  d\xE9j\xE0 vu ", 0, kZRToEnd));  // windows-1252
+  /// assert(text.Trim().GetLength() == 7);
+  /// assert(text.Normalize(kZRNormalizationNFD) == 1 && text.GetLength() == 9);
+  /// assert(text.Normalize(kZRNormalizationNFC) == 1 && text.GetLength() == 7);
+  /// text.ToUpper();
+  /// assert(text == ZRString("D\xC9J\xC0 VU", 0, kZRToEnd));
+  /// assert(text.PadLeading(9, '.') == 1 && text[1] == '.');
+  /// assert(text.Truncate(3) == 1 && text.Reverse(0, kZRToEnd)[0] == 'D');
+  /// @endcode
+  /// @{
+
   /// Replaces the text by its normalized form.
   /// @return 1 if the text was replaced. 0, with the string unchanged and a shared body still
   ///         shared, if a quick check found the text normalized, if `mode` is none of the five, or
@@ -188,6 +232,18 @@ class ZR_API ZRStringMutator : public ZRString {
   /// Maps to lower case by the rules of ICU's default locale. The length may change.
   ZRStringMutator& ToLower();
 
+  /// @}
+
+  /// @name Reading
+  /// @code
+  /// const ZRStringMutator text(ZRString("banana", 0, kZRToEnd));
+  /// ZRStringMutator part;
+  /// text.Extract(2, 3, part);
+  /// assert(part == ZRString("nan", 0, kZRToEnd));
+  /// assert(part + text == ZRString("nanbanana", 0, kZRToEnd));
+  /// @endcode
+  /// @{
+
   const unsigned short* GetBuffer() const override;
   void Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const override;
   void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
@@ -201,6 +257,21 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// This string followed by `other`.
   ZRStringMutator operator+(const ZRString& other) const;
+
+  /// @}
+
+  /// @name Storage and handle
+  /// @code
+  /// ZRStringMutator text;
+  /// unsigned short* const units = text.GetBuffer(100);
+  /// assert(units && text.GetCapacity() >= 100);
+  /// for (int i = 0; i < 3; ++i)
+  ///   units[i] = static_cast<unsigned short>('a' + i);
+  /// text.ReleaseBuffer(3);
+  /// assert(text == ZRString("abc", 0, kZRToEnd));
+  /// assert(text.GetTerminatedBuffer()[3] == 0);
+  /// @endcode
+  /// @{
 
   /// Detaches and opens the text's storage for writing, with room for at least `minCapacity` units
   /// (-1: its current capacity). The previous units are still in it.
@@ -232,9 +303,12 @@ class ZR_API ZRStringMutator : public ZRString {
 
   /// This object's address as a handle, valid as long as the object lives.
   ZRMutableStringRef__* GetZRMutableStringRef() noexcept;
+
+  /// @}
 };
 
 /// Exchanges the bodies of two strings, without touching them.
+/// @since 1.1
 inline void swap(ZRStringMutator& left, ZRStringMutator& right) noexcept {
   left = std::move(right);
 }
@@ -252,6 +326,13 @@ ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* 
 /// Without these operators, a `char32_t`, `char` or floating operand would be converted to a unit:
 /// a character above U+FFFF would lose its upper bits. They take exactly these types. Integers,
 /// such as `unit + 1`, are still units.
+/// @code
+/// ZRStringMutator text;
+/// text += U'\U0001F600';  // two units
+/// text += '\x80';         // windows-1252: the euro sign
+/// assert(text.GetLength() == 3 && text[2] == 0x20AC);
+/// @endcode
+/// @since 1.1
 /// @{
 
 /// @cond

@@ -39,6 +39,19 @@ extern template class ZR_API std::vector<ZRString*>;
 /// **Threads.** An array may be used by only one thread at a time.
 class ZR_API ZRStringPtrArray {
  public:
+  /// @name Creation and size
+  /// @code
+  /// const ZRString word("un", 0, kZRToEnd);
+  /// ZRStringPtrArray words;
+  /// words.PushBack(new ZRString(word));
+  /// ZRStringPtrArray same(words);  // the same pointers
+  /// assert(same.Size() == 1 && same[0] == words[0]);
+  /// same.EraseAll();               // leaves the string alive
+  /// assert(same.Empty() && *words[0] == word);
+  /// words.DeleteAll();
+  /// @endcode
+  /// @{
+
   ZRStringPtrArray() noexcept;                      ///< An empty array.
   ZRStringPtrArray(const ZRStringPtrArray& other);  ///< Holds the same pointers in the same order.
   ~ZRStringPtrArray();                              ///< Does not delete the strings.
@@ -48,6 +61,20 @@ class ZR_API ZRStringPtrArray {
 
   ZRULong Size() const noexcept;  ///< Number of entries.
   bool Empty() const noexcept;    ///< Whether there are no entries.
+
+  /// @}
+
+  /// @name Entries
+  /// @code
+  /// ZRString un("un", 0, kZRToEnd), deux("deux", 0, kZRToEnd), trois("trois", 0, kZRToEnd);
+  /// ZRStringPtrArray words;  // of strings that somebody else owns
+  /// words.PushBack(&un);
+  /// words.PushBack(&trois);
+  /// assert(words.Insert(1, &deux) && words[1] == &deux && words[2] == &trois);
+  /// assert(words[9] == &trois);          // outside the array: the last entry
+  /// assert(!words.SetString(3, &deux));  // outside the array: nothing changes
+  /// @endcode
+  /// @{
 
   /// The entry at `index`, or the last entry for an index outside the array.
   /// @throws std::out_of_range if the array is empty
@@ -74,6 +101,24 @@ class ZR_API ZRStringPtrArray {
 
   void PushBack(ZRString* const string);  ///< Appends an entry.
 
+  /// @}
+
+  /// @name Removal, iteration and handle
+  /// @code
+  /// ZRStringPtrArray words;
+  /// for (const char* word : {"un", "deux", "trois"})
+  ///   words.PushBack(new ZRString(word, 0, kZRToEnd));
+  /// ZRString* const first = words[0];
+  /// words.Erase(0);  // does not delete the string
+  /// delete first;
+  /// ZRLong units = 0;
+  /// for (auto word = words.Begin(); word != words.End(); ++word)
+  ///   units += (*word)->GetLength();
+  /// assert(units == 9);
+  /// words.DeleteAll();  // deletes the other two
+  /// @endcode
+  /// @{
+
   /// Removes the entry at `index` and does not delete its string. Does nothing for an index outside
   /// the array.
   void Erase(ZRLong index) noexcept;
@@ -97,6 +142,8 @@ class ZR_API ZRStringPtrArray {
 
   /// This object's address as a handle, valid as long as the object lives.
   ZRStringPtrArrayRef__* GetZRStringPtrArrayRef() noexcept;
+
+  /// @}
 
  private:
   std::vector<ZRString*> strings_;

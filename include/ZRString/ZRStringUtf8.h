@@ -24,6 +24,20 @@
 ///   empty.
 ///
 /// C++ programs may use these functions, too; ZRStringInterop.h has simpler ones.
+///
+/// @code{.c}
+/// ZRMutableStringRef__* text;
+/// char utf8[8];
+/// size_t size;
+/// ZRLong status = ZRMutableStringCreateFromUtf8("d\xC3\xA9", ZR_TO_ZERO_BYTE, &text);
+/// if (status == 0)
+///   status = ZRMutableStringAppendUtf8(text, "j\xC3\xA0 vu", 4);  // four bytes: "jà "
+/// if (status == 0)
+///   status = ZRStringExtractIntoUtf8((ZRStringRef__*)text, utf8, sizeof utf8, &size);
+/// assert(status == 0 && size == 7 && utf8[7] == 0);
+/// ZRMutableStringDestroy(text);
+/// @endcode
+/// @since 1.1
 
 /// The size of a text that ends before its first zero byte.
 #define ZR_TO_ZERO_BYTE ((size_t)-1)

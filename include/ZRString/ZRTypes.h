@@ -22,6 +22,7 @@
 /// @def ZR_CALL
 /// The calling convention of every function that is not a member of a class: `__cdecl` on 32-bit
 /// Windows, whatever the compiler's default there is, and the platform's only one elsewhere.
+/// @since 1.1
 #if defined(_WIN32) && !defined(_WIN64)
 #define ZR_CALL __cdecl
 #else
@@ -43,6 +44,7 @@ typedef unsigned int ZRULong;
 #endif
 
 /// Names for special values.
+/// @since 1.1; older headers have the values without names
 enum {
   kZRToEnd = -1,      ///< A length: to the end of the text.
   kZRNotFound = -1,   ///< The result of a search that finds nothing.
@@ -51,6 +53,7 @@ enum {
 
 /// The kinds of comparison that ZRString::ICompare and ZRStringICompare() offer. Other values are
 /// option bits for ICU's case-insensitive comparison.
+/// @since 1.1; older headers have the values without names
 enum {
   kZRCompareIgnoreCase = 0,                ///< By default case folding, in code unit order.
   kZRCompareIgnoreCaseTurkic = 1,          ///< As 0, with the Turkic dotted and dotless i.

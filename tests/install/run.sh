@@ -73,8 +73,9 @@ check_program "$work/cpp/road" "$work/road.txt"
 for standard in 17 20 23; do check_program "$work/cpp/vector$standard" /dev/null; done
 
 say "programs of the README, the pages and the headers, through pkg-config"
-[ "$(grep -c '^{$' "$work/classes.cpp")" = 3 ] || die "a class has no example"
-for source in readme.c readme.cpp road.c classes.cpp; do
+awk '/\/ @name/ {bare = $0} /\/ @code/ {bare = ""} /\/ @\{/ && bare {print FILENAME bare; exit 1}' \
+  "$top"/include/ZRString/*.h || die "a group of members has no example"
+for source in readme.c readme.cpp road.c classes.cpp interop.cpp handles.c; do
   standard=c++17
   [[ $source != *.c ]] || standard='c99'
   compile $standard "$work/$source" -o "$work/$source.out" $(pkg-config --libs zrstring)
