@@ -22,7 +22,7 @@ write_programs() {
   cp "$top/docs/snippets/road.c" "$1/"
   # shellcheck disable=SC2016 # the marks of a block of code, not commands
   sed -n '/^### Output/,/^## Layers/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
-  commented ZRString.h ZRStringMutator.h ZRStringPtrArray.h > "$1/classes.cpp"
+  commented ZR{Types,String{,Mutator,PtrArray,Stream,Output}}.h > "$1/classes.cpp"
   commented ZRStringInterop.h > "$1/interop.cpp"
   commented ZRStringHandles.h ZRStringUtf8.h > "$1/handles.c"
   : | tee "$1/classes.txt" "$1/interop.txt" > "$1/handles.txt"

@@ -21,6 +21,13 @@ class ZRStringMutator;
 ///
 /// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it. Nothing checks
 /// that it stays below 2^31.
+/// @code
+/// ZRStringHolderCount count;
+/// assert(count.TakeShare() == &count && count.IsShared());
+/// assert(count.GiveUpShare() && !count.IsShared());
+/// assert(!count.GiveUpShare());  // the last one
+/// @endcode
+/// @since 1.1
 class ZRStringHolderCount {
  public:
   bool IsShared() const noexcept { return count_ > 1; }  ///< Whether there is more than one holder.

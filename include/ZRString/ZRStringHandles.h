@@ -46,7 +46,7 @@ typedef struct ZRStringPtrArrayRef__ ZRStringPtrArrayRef__;  ///< An array of st
 /// Statuses. An invalid parameter has kZRStatusFirstParameter - 1 + its position, counted from 1.
 enum {
   kZRStatusSuccess = 0,         ///< The call was made; all out-parameters are written.
-  kZRStatusFirstParameter = 4,  ///< The first parameter is invalid; 5: the second, and so on.
+  kZRStatusFirstParameter = 4,  ///< The first parameter is invalid; 5: the second. Since 1.1.
   kZRStatusIndexOutside = 12    ///< Arrays only: index outside the array, or array not created.
 };
 

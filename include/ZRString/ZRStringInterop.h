@@ -267,6 +267,10 @@ inline std::wstring ToWide(const ZRString& string) {
 /// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does. With it,
 /// `std::map<ZRString, Value, ZRStringLess>` can be searched for a `std::u16string_view` without
 /// creating a string.
+/// @code
+/// const std::vector<ZRString> words = {u"deux"_zr, u"un"_zr};
+/// assert(ZRStringLess()(words[0], words[1]) && ZRStringLess()(words[1], u"une"));
+/// @endcode
 struct ZRStringLess {
   using is_transparent = void;  ///< The operands may have different types.
 

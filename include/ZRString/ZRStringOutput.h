@@ -21,6 +21,12 @@
 /// the whole program by the standard library's version, which throws `std::bad_cast`. Numbers
 /// cannot be inserted in any case: standard libraries have no facet that formats them for this
 /// type.
+/// @code
+/// std::basic_ostringstream<unsigned short> out;
+/// out.width(4);
+/// out << ZRString("un", 0, kZRToEnd);
+/// assert(out.str().size() == 4 && out.str()[0] == ' ' && out.str()[2] == 'u');
+/// @endcode
 
 /// Widens an ASCII character, such as the default fill character, to a code unit.
 ///

@@ -15,10 +15,31 @@
 /// record of each entry. Every value is one call of the stream. Units are moved unchanged, zero
 /// units and unpaired surrogates included.
 ///
-/// Data flow in the direction of the arrows, and every operator returns its stream. Exceptions of
+/// @code
+/// struct Numbers : Velmar::IStream {  // a stream in memory, of numbers
+///   std::vector<ZRULong> values;
+///   std::size_t next = 0;
+///   void Write(const ZRLong* value) override { values.push_back(static_cast<ZRULong>(*value)); }
+///   void Write(const ZRULong* value) override { values.push_back(*value); }
+///   void Write(const unsigned short* value) override { values.push_back(*value); }
+///   void Read(ZRLong* value) override { *value = static_cast<ZRLong>(values[next++]); }
+///   void Read(ZRULong* value) override { *value = values[next++]; }
+///   void Read(unsigned short* value) override {
+///     *value = static_cast<unsigned short>(values[next++]);
+///   }
+/// } stream;
+/// stream << ZRString("un", 0, kZRToEnd);
+/// assert(stream.values.size() == 3 && stream.values[0] == 2 && stream.values[1] == 'u');
+/// ZRStringMutator text;
+/// stream >> text;
+/// assert(text == ZRString("un", 0, kZRToEnd));
+/// @endcode
+///
+/// Data flows in the direction of the arrows, and every operator returns its stream. Exceptions of
 /// the stream pass through, and reading may throw `std::bad_alloc`. Either leaves a mutator as it
-/// was, and an array with the entries that were complete. Reading into a mutator ends with SetTo(),
-/// so ICU's running out of memory there leaves ICU's error state, which ZRStringMutator describes.
+/// was, and an array with the entries that were complete. Reading into a mutator ends with SetTo():
+/// if ICU runs out of memory there, the mutator is left in ICU's error state, which ZRStringMutator
+/// describes.
 ///
 /// Lengths and counts are trusted: a reader allocates as many units as a length says, and asks the
 /// stream for as many strings as a count says.

@@ -65,6 +65,10 @@ enum {
 ///
 /// The units begin 8 bytes after the start of the record. A caller may allocate a record with room
 /// for more or fewer units: only `length` units are read.
+/// @code
+/// UniStr255 record = {2, 0, {'u', 'n'}};
+/// assert(ZRString(record).GetLength() == 2);
+/// @endcode
 typedef struct UniStr255 {
   ZRLong length;              ///< Number of units; -1: up to the first zero unit.
   ZRULong reserved;           ///< Neither read nor written by this library.
