@@ -67,11 +67,11 @@ class ZRStringHolderCount {
 /// assert(text.CompareBetween(0, 3, word, 0, 3) < 0);  // "copy" before "writ"
 /// @endcode
 ///
-/// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings made from a
-/// handle and strings made from the whole of another string share the body of their source, which
-/// takes an addition and no allocation. The last holder destroys the body. Only ZRStringMutator
-/// changes text, and it first gets a body of its own. At most 2147483647 strings may share a body;
-/// one more is undefined behaviour.
+/// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings created
+/// from a handle, and strings created from the whole of another string share the body of their
+/// source, which takes an addition and no allocation. The last holder destroys the body. Only
+/// ZRStringMutator changes text, and it first gets a body of its own. At most 2147483647 strings
+/// may share a body; one more is undefined behaviour.
 ///
 /// **Units and ranges.** Starts, lengths and indices count UTF-16 code units. A range is a start
 /// and a length, clamped to the text it refers to: a start below 0 counts as 0, a start past the
@@ -317,14 +317,15 @@ class ZR_API ZRString {
   /// error state, which ZRStringMutator describes.
   virtual const unsigned short* GetBuffer() const;
 
-  /// Copies a range to `dst[dstStart]` onwards and adds a zero unit.
+  /// Copies a range to memory that starts at `dst[dstStart]`, and adds a zero unit.
   ///
   /// `dst` must have room for `dstStart`, the copied units and the zero unit, and must not overlap
   /// this string's units. Writes nothing, not even the zero unit, if `start` is negative or past
   /// the end or if `length` is below -1.
   virtual void Extract(ZRLong start, ZRLong length, unsigned short* dst, ZRLong dstStart) const;
 
-  /// Copies the units `start` through `end` to `dst[dstStart]` onwards and adds a zero unit.
+  /// Copies the units `start` through `end` to memory that starts at `dst[dstStart]`, and adds a
+  /// zero unit.
   ///
   /// As Extract(), but an `end` past the last index is first clamped to it. Writes nothing if
   /// `start` is negative or greater than `end` + 1.

@@ -68,14 +68,13 @@ enum {
 /// @endcode
 /// @{
 
-/// Creates a string from `length` units of `chars`, from `chars[start]` on; -1: up to the zero
-/// unit.
+/// Creates a string from `length` units, starting at `chars[start]`; -1: up to the zero unit.
 /// @return 0; 4 chars is null; 5 start is negative; 6 length is below -1; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRStringCreateFromUniChars(const unsigned short* chars, ZRLong start,
                                                  ZRLong length, ZRStringRef__** out);
 
-/// Creates a string from `length` bytes of `text`, from `text[start]` on, decoded from
-/// windows-1252; -1: up to the zero byte.
+/// Creates a string from `length` bytes, starting at `text[start]`, decoded from windows-1252; -1:
+/// up to the zero byte.
 /// @return 0; 4 text is null; 5 start is negative; 6 length is below -1; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRStringCreateFromLocalString(const unsigned char* text, ZRLong start,
                                                     ZRLong length, ZRStringRef__** out);
@@ -163,7 +162,7 @@ ZR_API ZRLong ZR_CALL ZRStringRFindUniChars(ZRStringRef__* string, ZRLong start,
                                             unsigned short* pattern, ZRLong patternLength,
                                             ZRLong* index);
 
-/// Copies the units from `index` on, at most `count`, to `units`, and appends a zero unit.
+/// Copies at most `count` units, starting at `index`, to `units`, and appends a zero unit.
 ///
 /// Calls ZRString::Extract. Room for `count` + 1 units always suffices. An index outside the string
 /// is not an error: it writes only #kZRNoUnit, to `units[0]`.
@@ -171,7 +170,7 @@ ZR_API ZRLong ZR_CALL ZRStringRFindUniChars(ZRStringRef__* string, ZRLong start,
 ZR_API ZRLong ZR_CALL ZRStringGetUniCharsAt(ZRStringRef__* string, ZRLong index, ZRLong count,
                                             unsigned short* units);
 
-/// Copies a range to `dst[dstStart]` and what follows it, and appends a zero unit.
+/// Copies a range to memory that starts at `dst[dstStart]`, and appends a zero unit.
 ///
 /// Calls ZRString::Extract. `length` may be -1. If `start` is past the end, nothing is written.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 dst is null;
@@ -224,7 +223,7 @@ ZR_API ZRLong ZR_CALL ZRStringLastIndexOf(ZRStringRef__* string, unsigned short 
 /// @return 0; 4 out is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateEmpty(ZRMutableStringRef__** out);
 
-/// Creates a mutable string from `length` units of `chars`, from `chars[start]` on; -1 is refused.
+/// Creates a mutable string from `length` units, starting at `chars[start]`; -1 is refused.
 /// @return 0; 4 chars is null; 5 start is negative; 6 length is negative; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateFromUniChars(const unsigned short* chars, ZRLong start,
                                                         ZRLong length, ZRMutableStringRef__** out);
@@ -239,7 +238,7 @@ ZR_API ZRLong ZR_CALL ZRMutableStringCreateCopy(ZRStringRef__* source, ZRMutable
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateCopyRange(ZRStringRef__* source, ZRLong start,
                                                      ZRLong length, ZRMutableStringRef__** out);
 
-/// Creates a mutable string from `length` bytes of `text`, from `text[start]` on, decoded from
+/// Creates a mutable string from `length` bytes, starting at `text[start]`, decoded from
 /// windows-1252; -1 is refused.
 /// @return 0; 4 text is null; 5 start is negative; 6 length is negative; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateFromLocalString(const unsigned char* text, ZRLong start,
@@ -273,7 +272,7 @@ ZR_API ZRLong ZR_CALL ZRMutableStringSetToZRString(ZRMutableStringRef__* string,
 /// @return 0; 4 string is null; 5 src is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringAppend(ZRMutableStringRef__* string, ZRStringRef__* src);
 
-/// Appends `srcLength` units of `chars`, from `chars[srcStart]` on; -1 is refused.
+/// Appends `srcLength` units, starting at `chars[srcStart]`; -1 is refused.
 ///
 /// Calls ZRStringMutator::Append.
 /// @return 0; 4 string is null; 5 chars is null; 6 srcStart is negative; 7 srcLength is negative.
@@ -289,8 +288,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringAppendUniChars(ZRMutableStringRef__* string
 ZR_API ZRLong ZR_CALL ZRMutableStringInsert(ZRMutableStringRef__* string, ZRLong position,
                                             ZRStringRef__* src, ZRLong srcStart, ZRLong srcLength);
 
-/// Inserts `srcLength` units of `chars`, from `chars[srcStart]` on, before the unit at `position`;
-/// -1 is refused.
+/// Inserts `srcLength` units, starting at `chars[srcStart]`, before the unit at `position`; -1 is
+/// refused.
 ///
 /// Calls ZRStringMutator::Insert.
 /// @return 0; 4 string is null; 5 position is negative; 6 chars is null; 7 srcStart is negative;
@@ -299,16 +298,16 @@ ZR_API ZRLong ZR_CALL ZRMutableStringInsertUniChars(ZRMutableStringRef__* string
                                                     const unsigned short* chars, ZRLong srcStart,
                                                     ZRLong srcLength);
 
-/// Replaces `length` units from `start` on by the whole of `replacement`. In spite of the name, the
-/// third parameter is a length, not an end; it may be -1.
+/// Replaces `length` units, starting at `start`, by the whole of `replacement`. Despite the
+/// function's name, the third parameter is a length, not an end; it may be -1.
 ///
 /// Calls ZRStringMutator::Replace.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 replacement is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringReplaceBetween(ZRMutableStringRef__* string, ZRLong start,
                                                     ZRLong length, ZRStringRef__* replacement);
 
-/// Replaces `length` units from `start` on by `srcLength` units of `chars`, from `chars[srcStart]`
-/// on; `length` may be -1, `srcLength` may not.
+/// Replaces `length` units, starting at `start`, by `srcLength` units, starting at
+/// `chars[srcStart]`; `length` may be -1, `srcLength` may not.
 ///
 /// Calls ZRStringMutator::Replace.
 /// @return 0; 4 string is null; 5 start is negative; 6 length is below -1; 7 chars is null;

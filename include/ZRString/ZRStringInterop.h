@@ -49,9 +49,10 @@
 /// **Open buffers and the error state.** A string with an open writable buffer, or in ICU's error
 /// state, reads as empty.
 ///
-/// **Errors.** A text of 2^31 or more units throws `std::length_error`, given as UTF-8, too. UTF-8
-/// may have any number of bytes. If memory runs out, ICU's included, or if ICU cannot hold a text
-/// so long, the functions throw `std::bad_alloc`. The header does not compile without exceptions.
+/// **Errors.** A text of 2^31 or more units throws `std::length_error`, also if it is given as
+/// UTF-8. UTF-8 may have any number of bytes. If memory runs out, ICU's included, or if ICU cannot
+/// hold a text so long, the functions throw `std::bad_alloc`. The header does not compile without
+/// exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -357,8 +358,8 @@ bool operator>=(const Text& left, const ZRString& right) {
 
 /// @}
 /// @name Characters
-/// A character is a code point. A surrogate pair is one; an unpaired surrogate is one, too, with
-/// its own value.
+/// A character is a code point. A surrogate pair is one, and so is an unpaired surrogate, with its
+/// own value.
 /// @code
 /// const ZRString text = u"a\U0001F600b"_zr;  // four units, three characters
 /// assert(text.GetLength() == 4 && CodePointCount(text) == 3);
@@ -491,8 +492,8 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// @endcode
 /// @{
 
-/// Index of the first occurrence of `part` from the unit `from` on; -1 (#kZRNotFound) if there is
-/// none or `part` is empty. Calls ZRString::Find.
+/// Index of the first occurrence of `part` at or after the unit `from`; -1 (#kZRNotFound) if there
+/// is none or `part` is empty. Calls ZRString::Find.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 ZRLong IndexOf(const Text& text, const ZRStringInteropDetail::Pattern& part, ZRLong from = 0) {
   const auto& in = ZRStringInteropDetail::StringOf(text);
@@ -527,7 +528,7 @@ bool EndsWith(const Text& text, const ZRStringInteropDetail::Pattern& part) {
       [&](const unsigned short* units, ZRLong size) { return in.EndsWith(units, 0, size); });
 }
 
-/// `length` units of `text` from the unit `start` on; -1: to the end. The range is clamped.
+/// `length` units of `text`, starting at `start`; -1: to the end. The range is clamped.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 ZRStringMutator PartOf(const Text& text, ZRLong start, ZRLong length = kZRToEnd) {
   const auto& string = ZRStringInteropDetail::StringOf(text);

@@ -33,8 +33,8 @@ enum ZRStringNormalizationMode : int {
 ///
 /// **Operands.** As for ZRString: ranges are clamped, -1 means to the end, raw operands are not
 /// checked and `Between` members take inclusive ends. Positions are clamped as well. An operand may
-/// be this string or share its body, and a raw operand may lie within this string's own units (not
-/// at the zero unit behind them): it is read as it was before the edit.
+/// be this string or share its body, and a raw operand may lie within this string's own units (but
+/// not start at the zero unit after them): it is read as it was before the edit.
 ///
 /// **Results.** Editing members return this object, so that edits can be chained.
 ///
@@ -146,11 +146,11 @@ class ZR_API ZRStringMutator : public ZRString {
   /// Inserts a raw operand before the unit at `position`.
   ZRStringMutator& Insert(ZRLong position, const unsigned short* text, ZRLong start, ZRLong length);
 
-  /// Replaces `length` units from `position` by a range of `source`.
+  /// Replaces `length` units, starting at `position`, by a range of `source`.
   ZRStringMutator& Replace(ZRLong position, ZRLong length, const ZRString& source, ZRLong srcStart,
                            ZRLong srcLength);
 
-  /// Replaces `length` units from `position` by a raw operand.
+  /// Replaces `length` units, starting at `position`, by a raw operand.
   ZRStringMutator& Replace(ZRLong position, ZRLong length, const unsigned short* text,
                            ZRLong srcStart, ZRLong srcLength);
 

@@ -21,7 +21,8 @@
 
 /// @def ZR_CALL
 /// The calling convention of every function that is not a member of a class: `__cdecl` on 32-bit
-/// Windows, whatever the compiler's default there is, and the platform's only one elsewhere.
+/// Windows, even where the compiler's default is another one, and the platform's only one
+/// elsewhere.
 /// @since 1.1
 #if defined(_WIN32) && !defined(_WIN64)
 #define ZR_CALL __cdecl
