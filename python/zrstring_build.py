@@ -1,6 +1,7 @@
 """Builds the package for pip (PEP 517 and 660): a wheel of Python files, for any system."""
 
 import base64
+import gzip
 import hashlib
 import io
 import pathlib
@@ -55,10 +56,12 @@ def build_editable(wheel_directory, config_settings=None, metadata_directory=Non
 
 def build_sdist(sdist_directory, config_settings=None):
     sdist = f"{NAME}.tar.gz"
-    with tarfile.open(pathlib.Path(sdist_directory, sdist), "w:gz") as archive:
-        for path in [*_sources(), HERE / "pyproject.toml", pathlib.Path(__file__).resolve()]:
-            archive.add(path, f"{NAME}/{path.relative_to(HERE)}")
-        entry = tarfile.TarInfo(f"{NAME}/PKG-INFO")
-        entry.size = len(METADATA.encode())
-        archive.addfile(entry, io.BytesIO(METADATA.encode()))
+    paths = [*_sources(), HERE / "pyproject.toml", pathlib.Path(__file__).resolve()]
+    files = {str(path.relative_to(HERE)): path.read_bytes() for path in paths}
+    packed = gzip.GzipFile(pathlib.Path(sdist_directory, sdist), "wb", mtime=0)
+    with packed, tarfile.open(fileobj=packed, mode="w") as archive:
+        for name, data in {**files, "PKG-INFO": METADATA.encode()}.items():
+            entry = tarfile.TarInfo(f"{NAME}/{name}")  # of 1970, with no owner
+            entry.size = len(data)
+            archive.addfile(entry, io.BytesIO(data))
     return sdist

@@ -32,9 +32,3 @@ in_debian() {
     exec chroot "$@"' in_debian "$root" env -i HOME=/root TERM=dumb \
     PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"
 }
-
-# copy_project FOLDER: the project's sources, as they are now, without what was built from them.
-copy_project() {
-  mkdir -p "$1"
-  tar -C "$top" --exclude=./build --exclude=./.git -c . | tar -C "$1" -x
-}

@@ -18,6 +18,13 @@ check_build_folder() {
     die "$1 was made when the sources were in $sources. Remove it: rm -r '$1'"
 }
 
+# copy_project FOLDER: the project's sources, as they are now, without what was built from them. The
+# project's folder is in $top.
+copy_project() {
+  mkdir -p "$1"
+  tar -C "${top:?}" --exclude=./build --exclude=./.git -c . | tar -C "$1" -x
+}
+
 # show_ninja LOG: shows, until it is killed, the counter that ninja writes to LOG: at once on a
 # terminal, and otherwise every 20 seconds.
 show_ninja() {

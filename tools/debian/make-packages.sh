@@ -11,8 +11,7 @@ out=$top/build/packages
 version=$(sed -n 's/^project(ZRString VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
 source=$out/zrstring-$version
 rm -rf "$out"
-mkdir -p "$source"
-tar -C "$top" --exclude=./build --exclude=./.git -c . | tar -C "$source" -x
+copy_project "$source"
 cp -r "$source/tools/debian" "$source/debian"
 # What is built does not depend on the day: the build takes its date from the changelog, and files
 # that are copied into the packages keep theirs.
