@@ -44,7 +44,7 @@ def places(page):
     if page.name.endswith("-members.html") or "<!-- contents -->" not in text or not found:
         return
     title, target = plain(found[1]), page.name
-    pattern = r'<h[1-4]><a class="anchor" id="([^"]+)"></a>(.*?)</h|<tr class="markdownTableRow\w*">\s*<td[^>]*>(.*?)</td>'
+    pattern = r'<h[1-4][^>]*>\s*<a class="anchor" id="([^"]+)"></a>(.*?)</h|<tr class="markdownTableRow\w*">\s*<td[^>]*>(.*?)</td>'
     for label, heading, cell in re.findall(pattern, text, re.S):
         if label:
             target = f"{page.name}#{label}"
@@ -58,21 +58,28 @@ def main():
     search = folder / "search"
     data = (search / "searchdata.js").read_text("utf-8")
     letters = LETTERS.search(data)[2]
-    entries = set()
+    entries = {}
+
+    def add(name_keys, result):
+        """Later versions of Doxygen have entries for headings, too."""
+        target = re.search(r"'\.\./([^']*)'", result)[1]
+        for new in name_keys:
+            entries.setdefault((new, target), result)
+
     for number in range(len(letters)):
         text = (search / f"all_{number:x}.js").read_text("utf-8")
         for old, result in ENTRY.findall(text):
             result = result.replace("'%", "'")
             name = html.unescape(re.match("'(.*?)'", result)[1])
-            entries.update((new, result) for new in {old.removeprefix("_25"), *keys(name)})
+            add({old.removeprefix("_25"), *keys(name)}, result)
     for page in folder.glob("*.html"):
         for name, title, target in places(page):
             shown = [html.escape(text).replace("'", "&#39;") for text in (name, title)]
             result = f"'{shown[0]}',['../{target}',1,'{shown[1]}']"
-            entries.update((new, result) for new in keys(name))
+            add(keys(name), result)
 
     files = {}
-    for new, result in sorted(entries):
+    for new, result in sorted((new, result) for (new, _), result in entries.items()):
         files.setdefault("~" if new.startswith("_7e") else new[0], []).append((new, result))
     letters += "".join(sorted(files.keys() - set(letters)))
     (search / "searchdata.js").write_text(LETTERS.sub(rf'\1"{letters}"', data, 1), "utf-8")
