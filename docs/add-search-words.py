@@ -6,8 +6,8 @@ usage: add-search-words.py HTML_FOLDER
 Doxygen's search compares the beginning of names only. This script adds an entry for every word of a
 name (so that "utf8" finds FromUtf8()), for every heading, and for what the first columns of the
 tables of questions and of the names in other libraries say. The entries are those of the search in
-everything, whose files are search/all_NUMBER.js; the number is the place of the entries' first letter
-in a list in search/searchdata.js. Doxygen 1.9.4 has an HTML file beside each of them.
+everything, whose files are search/all_NUMBER.js; the number is the place of the entries' first
+letter in a list in search/searchdata.js. Doxygen 1.9.4 has an HTML file beside each of them.
 """
 import html
 import pathlib
@@ -18,8 +18,8 @@ ENTRY = re.compile(r"^  \['(.+)_\d+',\[(.*)\]\],?$", re.M)
 LETTERS = re.compile(r'(0: )"([^"]*)"')
 WORD = re.compile(r"[A-Z]+(?=[A-Z][a-z])|[A-Z]?[a-z]+\d*|[A-Z]+\d*|\d+")
 TABLES = ("questions", "qstring", "unicodestring")
-COMMON = set("a an and are as at be by do does for from if in is it its no not of on or the to what "
-             "which who with zr".split())
+COMMON = set("a an and are as at be by do does for from if in is it its no not of on or the to "
+             "what which who with zr".split())
 
 
 def key(text):
@@ -44,7 +44,8 @@ def places(page):
     if page.name.endswith("-members.html") or "<!-- contents -->" not in text or not found:
         return
     title, target = plain(found[1]), page.name
-    pattern = r'<h[1-4][^>]*>\s*<a class="anchor" id="([^"]+)"></a>(.*?)</h|<tr class="markdownTableRow\w*">\s*<td[^>]*>(.*?)</td>'
+    pattern = (r'<h[1-4][^>]*>\s*<a class="anchor" id="([^"]+)"></a>(.*?)</h'
+               r'|<tr class="markdownTableRow\w*">\s*<td[^>]*>(.*?)</td>')
     for label, heading, cell in re.findall(pattern, text, re.S):
         if label:
             target = f"{page.name}#{label}"
@@ -62,9 +63,9 @@ def main():
 
     def add(name_keys, result):
         """Later versions of Doxygen have entries for headings, too."""
-        target = re.search(r"'\.\./([^']*)'", result)[1]
+        shown = tuple(re.findall(r"'([^']*)'", result)[:2])
         for new in name_keys:
-            entries.setdefault((new, target), result)
+            entries.setdefault((new, shown), result)
 
     for number in range(len(letters)):
         text = (search / f"all_{number:x}.js").read_text("utf-8")
@@ -85,7 +86,8 @@ def main():
     (search / "searchdata.js").write_text(LETTERS.sub(rf'\1"{letters}"', data, 1), "utf-8")
     template = search / "all_0.html"
     for number, letter in enumerate(letters):
-        lines = [f"  ['{new}_{i}',[{result}]]" for i, (new, result) in enumerate(files.get(letter, []))]
+        lines = [f"  ['{new}_{i}',[{result}]]"
+                 for i, (new, result) in enumerate(files.get(letter, []))]
         name = f"all_{number:x}"
         (search / f"{name}.js").write_text(
             "var searchData=\n[\n" + ",\n".join(lines) + "\n];\n", "utf-8")

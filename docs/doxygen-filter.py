@@ -55,6 +55,7 @@ def page(text, name):
     parts = re.split(r"(^```.*?^```$|^    .*?$|`[^`\n]+`)", text, flags=re.M | re.S)
     for i, part in enumerate(parts[::2]):
         part = re.sub(r"^\[[^]]*\]\(\.\./examples/(\S+)\)$", r"\\verbinclude \1", part, flags=re.M)
+        part = re.sub(r"\[([^]\n]*)\n *([^]\n]*\]\()", r"[\1 \2", part)  # a link in one line
         part = re.sub(r"\]\((?:([\w-]+)\.md)?(?:#([\w-]+))?\)", lambda m: reference(m, name), part)
         part = re.sub(r"\]\(\.\./include/\w+/(\w+\.h)\)", r"](@ref \1)", part)
         part = re.sub(r"(?<![\w#])(kZR|ZR_TO)", r"#\1", part)

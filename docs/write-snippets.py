@@ -3,9 +3,9 @@
 
 usage: write-snippets.py [--check]
 
-A comment `<!-- snippet: FILE [NAME] -->` stands before a block of code. The block becomes the lines of
-FILE, from docs/snippets/ or examples/, between two comments `//! [NAME]`; without a name, the whole
-file. --check changes nothing, and fails if a page is not as written.
+A comment `<!-- snippet: FILE [NAME] -->` stands before a block of code. The block becomes the lines
+of FILE, from docs/snippets/ or examples/, between two comments `//! [NAME]`; without a name, the
+whole file. --check changes nothing, and fails if a page is not as written.
 """
 import pathlib
 import re
