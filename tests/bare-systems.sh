@@ -107,4 +107,9 @@ for codename in ${1:-bookworm trixie}; do
     logged "$logs/$check.log" "check_$check"
     grep -E 'tests passed|is entry|NOT |^real' "$logs/$check.log" || true
   done
+  # shellcheck source=/dev/null
+  [ $# -gt 1 ] || root=$bare tested "$(. "$bare/etc/os-release" &&
+    echo "${NAME%% *} ${VERSION_ID-}, $(uname -m | tr _ -)")" \
+    'on a bare system: installation, Debian packages, run-example, run-tests' \
+    "$bare"/project/build/{release,clang}
 done

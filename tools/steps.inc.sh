@@ -25,6 +25,22 @@ copy_project() {
   tar -C "${top:?}" --exclude=./build --exclude=./.git -c . | tar -C "$1" -x
 }
 
+# tested SYSTEM WHAT [FOLDER...]: prints a row for the table of tools/release-check.sh: what was tried,
+# and the compilers and the ICU of these build folders. $root is the system that they are in, if it
+# is another one. MinGW calls itself GCC 12.0 for each 12.
+tested() {
+  local folder compilers='' icu=''
+  for folder in "${@:3}"; do
+    compilers+=${compilers:+, }$(
+      sed -nE 's/^set\(CMAKE_CXX_COMPILER_(ID|VERSION) "(.*)"\)/\2/p' \
+        "$folder"/CMakeFiles/*/CMakeCXXCompiler.cmake |
+        sed -E 'N; s/GNU/GCC/; s/\n([0-9]+\.[0-9]+).*/ \1/; s/^(GCC.*)\.0$/\1/')
+    icu=$(sed -n 's/^ICU_INCLUDE_DIR:PATH=//p' "$folder/CMakeCache.txt")
+    icu=$(sed -nE 's/^#define U_ICU_VERSION "(.*)"/\1/p' "${root-}$icu/unicode/uvernum.h")
+  done
+  echo "| $1 | $compilers | $icu | $2 |"
+}
+
 # show_ninja LOG: shows, until it is killed, the counter that ninja writes to LOG: at once on a
 # terminal, and otherwise every 20 seconds.
 show_ninja() {
