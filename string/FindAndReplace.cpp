@@ -111,7 +111,7 @@ void ReplaceAll(icu::UnicodeString& edited, Units range, Units oldText, Units ne
 void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
                 const icu::UnicodeString& oldText, ZRLong oldStart, ZRLong oldLength,
                 const icu::UnicodeString& newText, ZRLong newStart, ZRLong newLength) {
-  if (!oldText.isBogus() && !newText.isBogus())
+  if (!newText.isBogus())
     ReplaceAll(edited, UnitsOf(edited, start, length), UnitsOf(oldText, oldStart, oldLength),
                UnitsOf(newText, newStart, newLength));
 }

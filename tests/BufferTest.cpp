@@ -54,6 +54,8 @@ TEST(ErrorState, EndsOnlyWithANewText) {
     return ExpectNoText(string), string;
   };
   EXPECT_FALSE(lost() == Make(u""));
+  ZRStringMutator other(Make(u"abc"));
+  EXPECT_EQ(TextOf(other.FindAndReplace(0, -1, Make(u"b"), 0, -1, string, 0, -1)), u"abc");
   EXPECT_EQ(TextOf(lost().SetTo(Make(u"xyz"), 1, 1)), u"y");
   EXPECT_EQ(TextOf(lost() = Make(u"xyz")), u"xyz");
   EXPECT_TRUE((lost().Truncate(0), string.GetBuffer()));

@@ -46,7 +46,7 @@ void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
                      string.CompareCodePointOrderBetween(start, end, other, start, all)}))
       << "CompareCodePointOrder";
   EXPECT_TRUE(agree(ours < theirs, {string<other, !(string >= other), other> string}));
-  for (const ZRULong options : {0u, 0x8000u, 1u, 0x8001u, 0x10000u})
+  for (const ZRULong options : {0u, 0x8000u, 1u, 4u, 0x8001u, 0x10000u})
     EXPECT_TRUE(agree(ours.caseCompare(start, all, theirs, start, all, options),
                       {string.ICompare(start, -1, other, start, -1, options),
                        string.ICompare(start, -1, raw, start, rest, options),

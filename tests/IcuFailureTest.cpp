@@ -68,10 +68,13 @@ TEST(ProcessCollator, IsMadeOnceForTheFirstDefaultLocaleAndTriedAgainAfterFailur
   UErrorCode status = U_ZERO_ERROR;
   icu::Locale::setDefault(icu::Locale("sv"), status);
   EXPECT_EQ(Make(u"a").ICompare(0, -1, Make(u"A"), 0, -1, 0), 0);  // needs no collator
+  const ZRString same = Make(u"a");
+  EXPECT_EQ(same.ICompare(0, -1, same, 0, -1, 3), 0);
+  EXPECT_EQ(creations, 1);  // tried, although the texts are equal
   CollateInThreads(0);
-  EXPECT_EQ(creations, 4);
+  EXPECT_EQ(creations, 5);
   icu::Locale::setDefault(icu::Locale("en_US"), status);
   failing = false;
   CollateInThreads(1);
-  EXPECT_EQ(creations, 5);
+  EXPECT_EQ(creations, 6);
 }
