@@ -233,9 +233,9 @@ class BaseString(_SequenceOfUnits):
     def __repr__(self) -> str:
         return f"{type(self).__name__}({str(self)!r})"
 
-    def __format__(self, spec: str) -> str:
+    def __format__(self, format_string: str) -> str:
         """As for str: the width counts characters."""
-        return format(str(self), spec)
+        return format(str(self), format_string)
 
     def __reduce__(self) -> Tuple[Any, ...]:
         return type(self), (str(self),)
