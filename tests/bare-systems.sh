@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Tries the project on a bare Debian 12 and a bare Debian 13. Takes an hour and must be run as root.
 #   install   follows "Install it" of the README to the letter and builds the README's programs
-#   packages  makes the Debian packages twice, has lintian check them, and uses them on other systems
+#   packages  makes the Debian packages twice, has lintian check them, and installs them elsewhere
 #   run       runs ./run-example and ./run-tests, each twice
 # usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]
 # shellcheck disable=SC2016 # what the shells in there expand
@@ -77,7 +77,8 @@ check_packages() {
 
   # Python needs that and python3-zrstring, which leaves nothing when it is removed.
   add_packages "$runner" './python3-zrstring_*'
-  in_debian "$runner" python3 -c 'import zrstring; print(zrstring.String("ab") + "c")' | grep -qx abc
+  in_debian "$runner" python3 -c 'import zrstring; print(zrstring.String("ab") + "c")' |
+    grep -qx abc
   in_debian "$runner" apt-get -q purge -y python3-zrstring
   [ -z "$(find "$runner/usr" -name '*zrstring*' ! -name '*libzrstring1*')" ]
 

@@ -29,13 +29,14 @@ build() {
 
 [[ ${1:-s390x} =~ ^(aarch64|s390x|i386)$ ]] || die "the processors are aarch64, s390x and i386"
 "$top/tools/install-packages.sh" bzip2 cmake debian-archive-keyring g++-aarch64-linux-gnu \
-  g++-i686-linux-gnu g++-s390x-linux-gnu mmdebstrap ninja-build python3 qemu-user-static unicode-data
+  g++-i686-linux-gnu g++-s390x-linux-gnu mmdebstrap ninja-build python3 qemu-user-static \
+  unicode-data
 for processor in ${1:-aarch64 s390x i386}; do
   folder=$top/build/$processor
   say "$processor: building"
   logged "$folder.log" build
   say "$processor: testing"
   # The tests of GoogleTest, the programs of the reference pages, and the exported names.
-  ctest --test-dir "$folder/zrstring" -R '\.|^docs-|^Exports$|^OperationsAreComplete$' -j "$(nproc)" \
-    --output-on-failure --no-tests=error
+  ctest --test-dir "$folder/zrstring" -R '\.|^docs-|^Exports$|^OperationsAreComplete$' \
+    -j "$(nproc)" --output-on-failure --no-tests=error
 done

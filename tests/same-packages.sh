@@ -11,15 +11,19 @@ version=$(sed -n 's/^project(ZRString VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLis
 declare -A commands=(
   [debian]=tools/debian/make-packages.sh
   [windows]=tools/windows/make-packages.sh
-  [python]='tools/install-packages.sh python3 && rm -rf build/python && mkdir -p build/python && cd python && python3 -Bc "
-import zrstring_build as package
+  [python]='tools/install-packages.sh python3
+    rm -rf build/python
+    mkdir -p build/python
+    cd python
+    python3 -Bc "import zrstring_build as package
 for make in package.build_wheel, package.build_sdist: make(\"../build/python\")"')
 declare -A packages=(
   [debian]="build/packages/{libzrstring{1,1-dbgsym,-dev},python3-zrstring}_$version-*.deb"
   [windows]="build/windows-{i686/zrstring-$version-win32,x86_64/zrstring-$version-win64}.zip"
   [python]="build/python/zrstring-$version{-py3-none-any.whl,.tar.gz}")
 
-[[ " $* " =~ ^(\ (debian|windows|python))*\ *$ ]] || die "the packages are debian, windows and python"
+[[ " $* " =~ ^(\ (debian|windows|python))*\ *$ ]] ||
+  die "the packages are debian, windows and python"
 "$top/tools/install-packages.sh" faketime
 copy=$(mktemp -d "${TMPDIR:-/var/tmp}/zrstring.XXXXXX")
 trap 'rm -rf "$copy"' EXIT

@@ -44,8 +44,8 @@ count_instructions() {
   benchmarks/count-instructions.sh
 }
 
-# try PART COMMAND [SYSTEM WHAT FOLDER...]: tries a part if it is wanted. If it passes, the table gets
-# a row of this system, or the rows that COMMAND prints.
+# try PART COMMAND [SYSTEM WHAT FOLDER...]: tries a part if it is wanted. If it passes, the table
+# gets a row of this system, or the rows that COMMAND prints.
 try() {
   local part=$1 command=$2 log=$out/$1.log status
   shift 2
@@ -74,7 +74,9 @@ try() {
 # Makes one row of all rows of a system.
 merge() {
   awk -F ' *[|] *' '
-    function join(list, each, separator) { return list (list == "" || each == "" ? "" : separator) each }
+    function join(list, each, separator) {
+      return list (list == "" || each == "" ? "" : separator) each
+    }
     !($2 in tried) { systems[++count] = $2 }
     {
       tried[$2] = join(tried[$2], $5, "; ")

@@ -25,9 +25,9 @@ copy_project() {
   tar -C "${top:?}" --exclude=./build --exclude=./.git -c . | tar -C "$1" -x
 }
 
-# tested SYSTEM WHAT [FOLDER...]: prints a row for the table of tools/release-check.sh: what was tried,
-# and the compilers and the ICU of these build folders. $root is the system that they are in, if it
-# is another one. MinGW calls itself GCC 12.0 for each 12.
+# tested SYSTEM WHAT [FOLDER...]: prints a row for the table of tools/release-check.sh: what was
+# tried, and the compilers and the ICU of these build folders. $root is the system that they are in,
+# if it is another one. MinGW calls itself GCC 12.0 for each 12.
 tested() {
   local folder compilers='' icu=''
   for folder in "${@:3}"; do
