@@ -28,7 +28,8 @@ declare -A packages=(
 copy=$(mktemp -d "${TMPDIR:-/var/tmp}/zrstring.XXXXXX")
 trap 'rm -rf "$copy"' EXIT
 copy_project "$copy"
-# The copy has no commit.
+# A cache of compiled files would hide what depends on the folder. The copy has no commit.
+unset CMAKE_C_COMPILER_LAUNCHER CMAKE_CXX_COMPILER_LAUNCHER
 SOURCE_DATE_EPOCH=$("$top/tools/source-date.sh")
 export SOURCE_DATE_EPOCH
 [ $# -gt 0 ] || set -- debian windows python
