@@ -1,6 +1,6 @@
 #!/bin/sh
 # Times ZRString and its peers in one run, into build/peers.json, and puts the table and the picture
-# of that run into the pages. Takes a minute or two; nothing else should run meanwhile.
+# of that run into the pages. Takes three minutes; nothing else should run meanwhile.
 # usage: compare-peers.sh [OPTION OF GOOGLE BENCHMARK]...
 set -eu
 cd "$(dirname "$0")/.."

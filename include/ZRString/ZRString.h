@@ -265,9 +265,9 @@ class ZR_API ZRString {
   /// Index of the first occurrence of a range of `pattern` inside a range of this string.
   ///
   /// The index counts from the start of this string. It is -1 (#kZRNotFound) if the pattern's range
-  /// is empty or does not occur wholly inside [start, start + length). A pattern that begins or
-  /// ends with half of a surrogate pair is not found where it would split a pair of the searched
-  /// range.
+  /// is empty or does not occur wholly inside [start, start + length). A pattern that begins with a
+  /// trail surrogate or ends with a lead surrogate is not found where it would split a pair of the
+  /// searched range.
   ZRLong Find(const ZRString& pattern, ZRLong patternStart, ZRLong patternLength, ZRLong start,
               ZRLong length) const noexcept;
 

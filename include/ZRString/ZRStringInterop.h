@@ -479,9 +479,9 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// @name Short forms
 /// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
-/// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer is
-/// empty, and so is one in ICU's error state, which however begins and ends with nothing, and replaces
-/// nothing.
+/// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
+/// or in ICU's error state is empty. One in the error state, however, begins and ends with nothing,
+/// not even with an empty text, and replaces nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));

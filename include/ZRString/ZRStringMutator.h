@@ -28,8 +28,10 @@ enum ZRStringNormalizationMode : int {
 /// @endcode
 ///
 /// **Sharing.** Construction from a whole string or from a handle, and assignment, share the
-/// source's body and copy no units. Every editing member first *detaches*: it copies a shared body,
-/// so that no other string changes. Edits detach even if they change nothing, except Normalize().
+/// source's body and copy no units. Assignment from a temporary or moved mutator exchanges the
+/// bodies; construction from one shares, as a copy does. Every editing member first *detaches*: it
+/// copies a shared body, so that no other string changes. Edits detach even if they change nothing,
+/// except Normalize().
 ///
 /// **Operands.** As for ZRString: ranges are clamped, -1 means to the end, raw operands are not
 /// checked and `Between` members take inclusive ends. Positions are clamped as well. An operand may
@@ -277,8 +279,8 @@ class ZR_API ZRStringMutator : public ZRString {
   /// (-1: its current capacity). The previous units are still in it.
   ///
   /// The pointer is valid until ReleaseBuffer(). It is null, with the text unchanged, if a buffer
-  /// is already open or `minCapacity` is below -1, and null, with the text in ICU's error state, if
-  /// ICU runs out of memory.
+  /// is already open, in ICU's error state or if `minCapacity` is below -1, and null, with the text
+  /// in ICU's error state, if ICU runs out of memory.
   ///
   /// Do not copy the string while the buffer is open. The copy would share the body and see what is
   /// written; a second call here would detach from it and leave the copy with an open buffer that

@@ -44,9 +44,9 @@
 
 /// Statuses of the functions of this header, beside those of ZRStringHandles.h.
 enum {
-  kZRStatusNoMemory = 13,  ///< Memory ran out; nothing was changed or written.
-  kZRStatusTextLost = 14   ///< The edited string has no text now: ICU could not hold it, or the
-                           ///< string had an open buffer or was in ICU's error state before.
+  kZRStatusNoMemory = 13,  ///< Memory ran out, or ICU cannot hold the text; nothing was written.
+  kZRStatusTextLost = 14   ///< ICU could not hold the edited text, which is lost; or nothing was
+                           ///< appended, to an open buffer or a text already lost.
 };
 
 /// @cond

@@ -400,7 +400,8 @@ class BaseString(_SequenceOfUnits):
         """The first index of `sub` within the slice [start:end], or -1.
 
         Unlike str, an empty `sub` is found nowhere, here and in all methods that search. A `sub`
-        that begins or ends with half of a surrogate pair is not found inside a pair.
+        that begins with a trail surrogate or ends with a lead surrogate is not found where it
+        would split a pair.
 
         >>> text = String("naïve cafés")
         >>> text.find("a"), text.find("a", -5), text.find("a", 2, 6), text.find("")
