@@ -6,6 +6,7 @@
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.inc.sh"
+cd "$top"  # the names of the packages are patterns
 
 version=$(sed -n 's/^project(ZRString VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
 declare -A commands=(
