@@ -31,8 +31,8 @@ inline Block Differences(const char16_t* left, const char16_t* right) {
 
 constexpr std::int32_t kLong = 8 * kBlock;
 
-/// A number of equal units at the beginning of texts of at least kLong units: up to less than half
-/// of that before the first difference. Out of line: few texts are so long.
+/// Skips equal units at the beginning of texts of at least kLong units, and returns how many. What
+/// it leaves is equal for less than kLong units. Out of line: few texts are so long.
 [[gnu::noinline]] inline std::int32_t EqualRun(const char16_t* left, const char16_t* right,
                                                std::int32_t count) {
   constexpr std::int32_t kHalf = kLong / 2;

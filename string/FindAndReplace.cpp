@@ -117,8 +117,9 @@ void ReplaceAll(icu::UnicodeString& edited, ZRLong start, ZRLong length,
 }
 
 /// FindAndReplace() where an operand is the string under edit, which would be overwritten while it
-/// is read. While a copy shares the body, the edit takes another one. Out of line: inlined, it
-/// would make every call set up stack space for the copy.
+/// is read. While a copy shares the body, the edit takes another one; so a string with an open
+/// buffer must not come here, whose buffer would be closed. Out of line: inlined, it would make
+/// every call set up stack space for the copy.
 [[gnu::noinline, gnu::cold]] ZRStringMutator& ReplaceAllByItself(
     ZRStringMutator& edited, ZRLong start, ZRLong length, const ZRString& oldText, ZRLong oldStart,
     ZRLong oldLength, const ZRString& newText, ZRLong newStart, ZRLong newLength) {
