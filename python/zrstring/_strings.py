@@ -135,6 +135,11 @@ def _operand(value: object, name: str) -> Any:
     raise _wrong(name, "str, String or MutableString", value)
 
 
+def _stable_operand(value: object, name: str) -> Any:
+    """As _operand(), but no other thread can edit that string."""
+    return value._stable() if isinstance(value, BaseString) else _operand(value, name)
+
+
 def _unit(value: object, name: str) -> int:
     if not isinstance(value, (str, BaseString)):
         raise _wrong(name, "a str of one code unit", value)
@@ -445,7 +450,7 @@ class BaseString(_SequenceOfUnits):
 
     def _finds(self, sub: Any, start: Any, end: Any) -> Iterator[int]:
         """The ends of the occurrences of `sub` in a slice, which do not overlap."""
-        text, pattern = self._stable(), _operand(sub, "sub")
+        text, pattern = self._stable(), _stable_operand(sub, "sub")
         width = _length(pattern)
         first, length = _indices(start, end, _length(text))
         limit = first + length
@@ -463,14 +468,16 @@ class BaseString(_SequenceOfUnits):
         return sum(1 for _ in self._finds(sub, start, end))
 
     def _fits(self, sub: object, start: Any, end: Any, at_end: bool, name: str) -> bool:
+        text = self._stable()
+        size = _length(text)
         for one in sub if isinstance(sub, tuple) else (sub,):
-            operand = _operand(one, name)
-            size, width = len(self), _length(operand)
+            operand = _stable_operand(one, name)
+            width = _length(operand)
             first, length = _indices(start, end, size)
             place = first + length - width if at_end else first
             if width > length or (width == 0 and not _is_slice(start, end, size)):
                 continue
-            if _compare(self._handle, place, width, operand, 0, -1) == 0:
+            if _compare(text, place, width, operand, 0, -1) == 0:
                 return True
         return False
 
@@ -498,12 +505,17 @@ class BaseString(_SequenceOfUnits):
         >>> String("a-b-c").replace("-", "+"), String("a-b-c").replace("-", "", 1)
         (String('a+b+c'), String('ab-c'))
         """
-        left, end = _integer(count, "count"), None
-        if left >= 0:
-            end = 0
-            for end, _ in zip(self._finds(old, None, None), range(left)):
-                pass
-        return self._changed(lambda copy: copy.find_and_replace(old, new, 0, end))
+        left = _integer(count, "count")
+
+        def edit(copy: MutableString) -> None:
+            end = None
+            if left >= 0:
+                end = 0
+                for end, _ in zip(copy._finds(old, None, None), range(left)):
+                    pass
+            copy.find_and_replace(old, new, 0, end)
+
+        return self._changed(edit)
 
     def upper(self: _S) -> _S:
         """A copy in upper case, by the rules of ICU's default locale."""
