@@ -1,6 +1,6 @@
-"""Looks up a word in a word list in windows-1252, with one entry per line.
+"""Looks up a word in a word list with one entry per line, in UTF-8 or, by an option, windows-1252.
 
-    lookup.py FILE WORD
+    lookup.py [--windows-1252] FILE WORD
 
 The list is sorted in the linguistic order of the default locale, and entries that differ from an
 earlier one only in case are dropped. Prints the number of the entry that the word is or would be,
@@ -28,10 +28,13 @@ collated = key_by(zrstring.COLLATED)
 folded = key_by(zrstring.IGNORE_CASE)
 
 
-def entries_of(data):
+def from_utf8(data):
+    return zrstring.String(data.decode("utf-8", "replace"))
+
+
+def entries_of(data, decoded):
     """A string for each line that is not empty; lines end in LF or CR LF."""
-    lines = re.split(rb"\r?\n", data)
-    return [zrstring.String.from_local(line) for line in lines if line]
+    return [decoded(line) for line in re.split(rb"\r?\n", data) if line]
 
 
 def without_repetitions(entries):
@@ -44,12 +47,16 @@ def without_repetitions(entries):
 
 
 def main(arguments):
+    decoded = from_utf8
+    if arguments[:1] == ["--windows-1252"]:
+        decoded = zrstring.String.from_local
+        del arguments[0]
     if len(arguments) != 2:
-        return "lookup: usage: lookup.py FILE WORD"
+        return "lookup: usage: lookup.py [--windows-1252] FILE WORD"
     path, word = arguments
     try:
         with open(path, "rb") as file:
-            read = entries_of(file.read())
+            read = entries_of(file.read(), decoded)
     except OSError as error:
         return "lookup: cannot read %s: %s" % (path, error.strerror)
     kept = without_repetitions(sorted(read, key=collated))
