@@ -20,8 +20,8 @@ foreach(file IN LISTS files)
   message(STATUS "Removed: ${file}")
   cmake_path(GET file PARENT_PATH folder)
   # A folder whose name file(GLOB) would take for a pattern is left alone.
-  while(folder MATCHES "/(ZRString|Velmar|zrstring)$|/gdb/auto-load/." AND
-      NOT folder MATCHES "[][*?]")
+  while(folder MATCHES "/(ZRString|Velmar|zrstring(-[0-9.]*dist-info)?)$|/gdb/auto-load/." AND NOT
+      folder MATCHES "[][*?]")
     # What Python has compiled of its package. Without the sources it is of no use.
     file(REMOVE_RECURSE "${folder}/__pycache__")
     file(GLOB rest "${folder}/*")

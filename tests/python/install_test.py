@@ -28,9 +28,10 @@ with tempfile.TemporaryDirectory() as folder:
         (f"{configure} && {install}", f"'{CMAKE}' --build build --target uninstall"),
     ):
         run(installing)
-        use = "import zrstring as z; print(z.String('used'), z.__file__)"
+        use = "from importlib import metadata; import zrstring as z; "
+        use += "print(z.String('used'), metadata.version('zrstring') == z.__version__, z.__file__)"
         used = run(f'prefix/bin/python -c "{use}"')
-        assert used.startswith("used ") and "/prefix/lib/python" in used, used
+        assert used.startswith("used True ") and "/prefix/lib/python" in used, used
         run(uninstalling)
         left = list(pathlib.Path("prefix").rglob("*zrstring*"))
         assert not left, left
