@@ -56,7 +56,7 @@ int main() {
   ZR_ROW("s.isEmpty()", s.IsEmpty() != 0);
   ZR_ROW("s[1] == u'n'", s[1] == u'n');
   ZR_ROW("s == u\"un\"", s == u"un");
-  ZR_ROW("s + u\".\"", s + u".");
+  ZR_ROW("s + u\".\"_s", s + u".");
   ZR_ROW("s.contains(u\"deux\")", Contains(s, u"deux"));
   ZR_ROW("s.indexOf(u\"un\", 1)", IndexOf(s, u"un", 1));
   ZR_ROW("s.indexOf(u',')", IndexOf(s, u','));
@@ -65,11 +65,11 @@ int main() {
   ZR_ROW("s.endsWith(u\"un\")", EndsWith(s, u"un"));
   ZR_ROW("s.left(2)", PartOf(s, 0, 2));
   ZR_ROW("s.mid(4, 4)", PartOf(s, 4, 4));
-  ZR_ROW("s.split(u\", \")", PartsOf(s, u", "));
+  ZR_ROW("s.split(u\", \"_s)", PartsOf(s, u", "));
   ZR_ROW("list.join(u'/')", Joined(PartsOf(s, u", "), u'/'));
   ZR_ROW("s.toUpper()", UpperCase(s));
-  ZR_ROW("s.trimmed()", Trimmed(u" un  deux "));
-  ZR_ROW("t.replace(u\"un\", u\"1\")",
+  ZR_ROW("s.trimmed()", Trimmed(s));
+  ZR_ROW("t.replace(u\"un\"_s, u\"1\"_s)",
          ReplacedAll(t, u"un", u"1"));
   ZR_ROW("t.append(u\"!\")", ZRStringMutator(t) += u"!"_zr);
   ZR_ROW("t.insert(2, u\"e\")",

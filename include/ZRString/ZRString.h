@@ -248,17 +248,19 @@ class ZR_API ZRString {
   /// @endcode
   /// @{
 
-  /// Whether this whole string begins with a range of `src`. 1 for an empty range.
+  /// Whether this whole string begins with a range of `src`. 1 for an empty range; 0 if just one of
+  /// the two is in ICU's error state, which ZRStringMutator describes.
   unsigned char StartsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// Whether this whole string begins with a raw operand. 1 for an empty range.
+  /// Whether this whole string begins with a raw operand. 1 for an empty range; 0 in ICU's error
+  /// state.
   unsigned char StartsWith(const unsigned short* src, ZRLong srcStart,
                            ZRLong srcLength) const noexcept;
 
-  /// Whether this whole string ends with a range of `src`. 1 for an empty range.
+  /// Whether this whole string ends with a range of `src`. Returns as StartsWith().
   unsigned char EndsWith(const ZRString& src, ZRLong srcStart, ZRLong srcLength) const noexcept;
 
-  /// Whether this whole string ends with a raw operand. 1 for an empty range.
+  /// Whether this whole string ends with a raw operand. Returns as StartsWith().
   unsigned char EndsWith(const unsigned short* src, ZRLong srcStart,
                          ZRLong srcLength) const noexcept;
 

@@ -32,7 +32,7 @@
 ///    memory. An edit that ICU cannot complete loses the text, which then reads as empty (see
 ///    ICU's error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
-///    one thread at a time.
+///    one thread at a time, except for reading.
 /// 9. **Calling convention.** #ZR_CALL: `__cdecl` on 32-bit Windows.
 
 #ifdef __cplusplus

@@ -284,8 +284,9 @@ struct ZRStringLess {
 
 /// @name Operators
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
-/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy,
-/// except that an operand in ICU's error state counts as empty.
+/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy, except that
+/// an operand in ICU's error state counts as empty. A mutator plus a string is what
+/// ZRStringMutator::operator+ makes of them.
 /// @code
 /// const ZRString name = u"un"_zr + u", deux";
 /// assert(name == u"un, deux" && name < u"une");
@@ -480,8 +481,8 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
-/// or in ICU's error state is empty. One in the error state, however, begins and ends with nothing,
-/// not even with an empty text, and replaces nothing.
+/// or in ICU's error state is empty. One in the error state, however, neither begins nor ends with
+/// another text, even an empty one, nor does another with it, and it replaces nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));

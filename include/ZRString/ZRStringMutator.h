@@ -38,14 +38,15 @@ enum ZRStringNormalizationMode : int {
 /// be this string or share its body, and a raw operand may lie within this string's own units (but
 /// not start at the zero unit after them): it is read as it was before the edit.
 ///
-/// **Results.** Editing members return this object, so that edits can be chained.
+/// **Results.** Editing members return this object, so that edits can be chained, except for those
+/// that return whether they did something.
 ///
 /// **Errors.** Detaching, and the copy that FindAndReplace() makes of an operand within this
 /// string's own units, throw `std::bad_alloc` and leave this string and every operand as they were.
 /// If ICU runs out of memory inside an edit, or the text would grow past what ICU can hold, this
-/// string's text is lost and in ICU's error state: its length is 0, its buffer is null, it equals
-/// only a text in the same state, and it ignores edits until SetTo() gives it a new text,
-/// Truncate(0) or Remove(0, INT32_MAX) empties it, or another string is assigned.
+/// string's text is lost and in ICU's error state: its length is 0, its buffer is null, operator==
+/// finds it equal only to a string in the same state, and it ignores edits until SetTo() gives it a
+/// new text, Truncate(0) or Remove(0, INT32_MAX) empties it, or another string is assigned.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
 /// edits. Do not use the string for anything else in between.

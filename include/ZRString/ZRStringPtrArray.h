@@ -36,7 +36,7 @@ extern template class ZR_API std::vector<ZRString*>;
 /// **Errors.** Growing throws what `std::vector` throws (`std::bad_alloc`, `std::length_error`) and
 /// leaves the entries as they were.
 ///
-/// **Threads.** An array may be used by only one thread at a time.
+/// **Threads.** An array may be used by only one thread at a time, except for reading.
 class ZR_API ZRStringPtrArray {
  public:
   /// @name Creation and size
