@@ -68,8 +68,8 @@ const Text kUnits =
 
 }  // namespace
 
-// A difference at each place of texts of up to three blocks of every size, starting at an even and
-// at an odd unit. The letters around it are ASCII or not.
+// A difference at each place of texts of every size up to 40 units and of some up to 200, starting
+// at an even and at an odd unit. The letters around it are ASCII or not.
 TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
   std::mt19937 random;
   for (const char16_t letter : {u'x', u'\u03B1'})
@@ -104,8 +104,9 @@ TEST(FastPath, EveryCodePointIsNormalizedOrNotAsByIcu) {
   } rows[] = {{2, UNORM_NFC}, {3, UNORM_NFKC}, {4, UNORM_NFD}, {5, UNORM_NFKD}, {6, UNORM_FCD}};
   for (const auto& row : rows)
     for (UChar32 c = 0; c <= 0x10FFFF; ++c) {
-      // A text of one block that ends with the code point, and another after it.
-      const icu::UnicodeString text = icu::UnicodeString(u"\u009F\u009F", 2).append(c).append(u'z');
+      // At the end of a block, or over it, with another block after it.
+      const icu::UnicodeString text =
+          icu::UnicodeString(Text(7, u'\u009F').c_str()).append(c).append(u"zzzzzzzz", 8);
       UErrorCode status = U_ZERO_ERROR;
       const bool normalized = icu::Normalizer::quickCheck(text, row.icuMode, status) == UNORM_YES;
       ZRStringMutator string(Raw(text.getBuffer()), 0, text.length());

@@ -37,9 +37,9 @@ struct Exact {
   std::size_t size;
 };
 
-/// Whether the text of `bytes` is ICU's, without much room to grow, also from C, at once and after
-/// another.
-bool SameAsIcu(const std::string& bytes) {
+/// The function that does not decode `bytes` as ICU does, at once or after another text, or leaves
+/// much room to grow; "" if there is none.
+std::string WrongFor(const std::string& bytes) {
   const Exact exact(bytes);
   const auto expected = icu::UnicodeString::fromUTF8(bytes);
   const std::u16string_view units(expected.getBuffer(), expected.length());
@@ -48,15 +48,19 @@ bool SameAsIcu(const std::string& bytes) {
   };
   ZRMutableStringRef__* handle = nullptr;
   if (ZRMutableStringCreateFromUtf8(exact.Data(), exact.size, &handle) != kZRStatusSuccess)
-    return false;
+    return "the status of ZRMutableStringCreateFromUtf8";
   const std::unique_ptr<ZRStringMutator> string(&GetZRStringMutatorFromRef(handle));
-  return matches(FromUtf8({exact.Data(), exact.size})) && matches(*string) &&
-         ZRMutableStringAppendUtf8(handle, exact.Data(), exact.size) == kZRStatusSuccess &&
-         Utf16View(*string) == std::u16string(units).append(units);
+  if (!matches(*string))
+    return "ZRMutableStringCreateFromUtf8";
+  if (ZRMutableStringAppendUtf8(handle, exact.Data(), exact.size) != kZRStatusSuccess ||
+      Utf16View(*string) != std::u16string(units).append(units))
+    return "ZRMutableStringAppendUtf8";
+  return matches(FromUtf8({exact.Data(), exact.size})) ? "" : "FromUtf8";
 }
 
-/// Whether C functions give `utf8` for a string; the buffer has no byte more than is needed.
-bool GivesUtf8(const ZRString& string, const std::string& utf8) {
+/// The C function that does not give `utf8` for a string, or "". The buffer has no byte more than
+/// is needed.
+std::string WrongFor(const ZRString& string, const std::string& utf8) {
   std::size_t sizes[3] = {};
   std::vector<char> buffer(utf8.size() + 1, 'x');
   char* text = nullptr;
@@ -64,19 +68,25 @@ bool GivesUtf8(const ZRString& string, const std::string& utf8) {
   ZRStringExtractIntoUtf8(string.GetZRStringRef(), buffer.data(), buffer.size(), &sizes[1]);
   ZRStringAllocateUtf8(string.GetZRStringRef(), &text, &sizes[2]);
   const std::unique_ptr<char, decltype(&std::free)> allocated(text, std::free);
-  return sizes[0] == utf8.size() && sizes[1] == utf8.size() && sizes[2] == utf8.size() &&
-         std::memcmp(buffer.data(), utf8.c_str(), buffer.size()) == 0 &&
-         std::memcmp(text, utf8.c_str(), buffer.size()) == 0;
+  if (sizes[0] != utf8.size())
+    return "ZRStringGetUtf8Size";
+  if (sizes[1] != utf8.size() || std::memcmp(buffer.data(), utf8.c_str(), buffer.size()) != 0)
+    return "ZRStringExtractIntoUtf8";
+  const bool same = sizes[2] == utf8.size() && std::memcmp(text, utf8.c_str(), buffer.size()) == 0;
+  return same ? "" : "ZRStringAllocateUtf8";
 }
 
-/// Whether the UTF-8 of `units` is ICU's, without much room to grow, and converts as ICU does it.
-bool SameAsIcu(const std::u16string& units) {
+/// The function that does not give ICU's UTF-8 of `units`, or leaves much room to grow, or does not
+/// decode that; "" if there is none.
+std::string WrongFor(const std::u16string& units) {
   const Exact exact(units);
   const std::string bytes = ToUtf8({exact.Data(), exact.size});
   std::string expected;
   icu::UnicodeString(units.data(), static_cast<std::int32_t>(units.size())).toUTF8String(expected);
-  return bytes == expected && bytes.capacity() <= bytes.size() * 5 / 4 + 16 &&
-         GivesUtf8(FromUtf16(units), expected) && SameAsIcu(expected);
+  if (bytes != expected || bytes.capacity() > bytes.size() * 5 / 4 + 16)
+    return "ToUtf8";
+  const std::string wrong = WrongFor(FromUtf16(units), expected);
+  return wrong.empty() ? WrongFor(expected) : wrong;
 }
 
 /// Calls `visit` with every sequence of up to `length` elements.
@@ -96,7 +106,8 @@ TEST(Interop, EveryCodePointAndUnpairedSurrogate) {
     text.padTrailing(text.length() + c % 41, u'a');
     text.append(c);
     if (c % 64 == 63) {
-      ASSERT_TRUE(SameAsIcu(std::u16string(text.getBuffer(), text.length()))) << c;
+      ASSERT_EQ(WrongFor(std::u16string(text.getBuffer(), text.length())), "")
+          << "up to U+" << std::hex << c;
       text.remove();
     }
   }
@@ -104,7 +115,7 @@ TEST(Interop, EveryCodePointAndUnpairedSurrogate) {
 
 TEST(Interop, EveryShortSequenceOfTheEdgesOfTheClasses) {
   const auto agrees = [](const auto& text) {
-    ASSERT_TRUE(SameAsIcu(text)) << testing::PrintToString(text);
+    ASSERT_EQ(WrongFor(text), "") << testing::PrintToString(text);
   };
   std::string bytes(256, '\0');
   std::iota(bytes.begin(), bytes.end(), '\0');
@@ -125,8 +136,8 @@ TEST(Interop, EveryPlaceAndLength) {
       for (std::size_t i = 0; i < 600; ++i, bytes += part) {
         const std::string letters(i % 32 ? 0 : i, 'a');
         const std::string text = bytes + letters + other + bytes.substr(0, i % 32);
-        ASSERT_TRUE(SameAsIcu(text)) << testing::PrintToString(text);
-        ASSERT_TRUE(SameAsIcu(std::u16string(Utf16View(FromUtf8(text))))) << text.size();
+        ASSERT_EQ(WrongFor(text), "") << testing::PrintToString(text);
+        ASSERT_EQ(WrongFor(std::u16string(Utf16View(FromUtf8(text)))), "") << text.size();
       }
     }
 }
@@ -162,7 +173,7 @@ TEST(Interop, TextsWithoutSizeEndAtTheirZeroByteAndLostTextsAreReported) {
   EXPECT_EQ(ToUtf8(*string) + ToUtf8(open), "\u00E9\u00E9z");
   open.GetBuffer(-1);
   EXPECT_EQ(ZRMutableStringAppendUtf8(open.GetZRMutableStringRef(), "a", 1), kZRStatusTextLost);
-  EXPECT_TRUE(GivesUtf8(open, ""));
+  EXPECT_EQ(WrongFor(open, ""), "");
 }
 
 TEST(Interop, ViewsAndLiterals) {

@@ -20,6 +20,9 @@ TEST(Output, HasTheWidthFillAndAdjustmentOfATerminatedText) {
     for (int width = 0; width < 8; ++width)
       for (const bool left : {false, true})
         for (const int form : {0, 1, 2}) {
+          SCOPED_TRACE(testing::Message()
+                       << testing::PrintToString(text) << ", width " << width << ", left " << left
+                       << ", by SerializeBasicStream() or the first or second <<: " << form);
           const ZRStringMutator string(Make(text));
           const Text shown = text.c_str(), padding(std::max<int>(width - shown.size(), 0), u'*');
           Stream stream;
@@ -30,7 +33,8 @@ TEST(Output, HasTheWidthFillAndAdjustmentOfATerminatedText) {
                          : form == 1 ? base << string
                                      : stream << string;
           EXPECT_EQ(&result, &stream);
-          EXPECT_TRUE(stream.good() && stream.width() == 0);
+          EXPECT_TRUE(stream.good());
+          EXPECT_EQ(stream.width(), 0);
           EXPECT_EQ(Written(stream), left ? shown + padding : padding + shown);
         }
 }

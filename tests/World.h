@@ -7,6 +7,8 @@
 #include <ZRString/ZRStringPtrArray.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdio>
 #include <random>
 #include <stdexcept>
 #include <vector>
@@ -98,6 +100,18 @@ const std::vector<Operation>& Operations();
 
 constexpr long long kNone = 12;  // the result of a call that finds no entry
 
+/// The last call, which a crash prints. A sanitizer has better handlers of its own.
+inline const char* running = "";
+#ifndef __SANITIZE_ADDRESS__
+inline void PrintRunning(int signal) {
+  std::fprintf(stderr, "crashed in or after this call: %s\n", running);
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+inline const auto handlers = {std::signal(SIGSEGV, PrintRunning),
+                              std::signal(SIGABRT, PrintRunning)};
+#endif
+
 class World {
  public:
   explicit World(unsigned seed) : random_(seed) {
@@ -122,6 +136,7 @@ class World {
     long long result = 0;
     std::string complaint;
     bool thrown = false;
+    running = form.text;
     heap.Fail(point, count);
     try {
       result = form.call(c);
