@@ -3,8 +3,8 @@
 
 usage: report-peers.py RUN.json
 
-A marker is a comment `<!-- peers: PATTERN -->`; what follows it, up to `<!-- end of peers -->`, becomes
-the table of the rows that the regular expression PATTERN matches.
+A marker is a comment `<!-- peers: PATTERN -->`; what follows it, up to `<!-- end of peers -->`,
+becomes the table of the rows that the regular expression PATTERN matches.
 """
 
 import json
@@ -68,9 +68,9 @@ def system(run):
 
 
 def picture(rows):
-    """Each peer's time over ZRString's as a mark on a logarithmic axis, below the name of its row, so
-    that the picture can be read on a phone. It has a background: on a page's own, dark or light, no
-    one grey is legible."""
+    """Each peer's time over ZRString's as a mark on a logarithmic axis, below the name of its row,
+    so that the picture can be read on a phone. It has a background: on a page's own, dark or light,
+    no one grey is legible."""
     ratios = {row: {peer: time / times["ZRString"] for peer, time in times.items()}
               for row, times in rows.items() if not row.startswith(HEAP)}
     flat = [ratio for peers in ratios.values() for ratio in peers.values()]
@@ -123,7 +123,8 @@ def main():
 
     def filled(match):
         chosen = {row: times for row, times in rows.items() if re.search(match[1], row)}
-        return f"<!-- peers: {match[1]} -->\n{table(chosen)}\n\n{system(run)}\n<!-- end of peers -->"
+        rows_and_system = f"{table(chosen)}\n\n{system(run)}"
+        return f"<!-- peers: {match[1]} -->\n{rows_and_system}\n<!-- end of peers -->"
 
     for page in PAGES:
         text = page.read_text(encoding="utf-8")

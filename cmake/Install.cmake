@@ -1,5 +1,5 @@
-# What `cmake --install` and the packages install. There are two components: Runtime is needed to
-# run programs, Development to compile and debug them.
+# What `cmake --install` and the packages install. There are these components: Runtime is needed
+# to run programs, Development to compile and debug them, and Python, if asked for, is the package.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 

@@ -2,7 +2,8 @@
 # Compares the exports of a shared library (ELF or PE) with the promised ones, in both directions. A
 # name that came after 1.0.0 is followed by its symbol version.
 # usage: check-exports.sh LIBRARY [--update]
-# --update writes exports-cpp.txt, from a library for Linux. exports-plain.txt is written by hand.
+# --update first writes exports-cpp.txt, from a library for Linux. exports-plain.txt is written by
+# hand.
 set -euo pipefail
 export LC_ALL=C
 here=$(dirname "$0")
@@ -35,4 +36,7 @@ fi
   echo "the names of 1.0.0 changed: a new one belongs in the newest node of platform/Elf.map" >&2
   exit 1
 }
+diff <(sed -nE 's/^(ZRSTRING_\S+) \{/\1/p' "$here/../platform/Elf.map") \
+  <(sed -nE 's/^ \(symver\)(\S+) .*/\1/p' "$here/../tools/debian/libzrstring1.symbols") ||
+  { echo "'<' lacks a line in tools/debian/libzrstring1.symbols" >&2; exit 1; }
 echo "$(wc -l <<< "$exported") exports, as promised"

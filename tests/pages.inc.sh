@@ -21,7 +21,8 @@ write_programs() {
   done
   cp "$top/docs/snippets/road.c" "$1/"
   # shellcheck disable=SC2016 # the marks of a block of code, not commands
-  sed -n '/^### Output/,/^## Layers/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" > "$1/road.txt"
+  sed -n '/^### Output/,/^## Layers/{/^```$/,/^```$/{/^```/!p}}' "$top/docs/index.md" \
+    > "$1/road.txt"
   commented ZR{Types,String{,Mutator,PtrArray,Stream,Output}}.h > "$1/classes.cpp"
   commented ZRStringInterop.h > "$1/interop.cpp"
   commented ZRStringHandles.h ZRStringUtf8.h > "$1/handles.c"
@@ -31,6 +32,9 @@ write_programs() {
 # installed_files COMPONENTS PREFIX LIBDIR CONFIG: the files of install/files.txt for COMPONENTS, a
 # regular expression.
 installed_files() {
-  sed -nE "s#^($1) ##; T; s#/PREFIX/#$2/#; s#\<LIBDIR/#$3/#; s#CONFIG#${4,,}#; p" \
+  local version
+  version=$(sed -n 's/^project(ZRString VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
+  sed -nE "s#^($1) ##; T
+    s#/PREFIX/#$2/#; s#\<LIBDIR/#$3/#; s#CONFIG#${4,,}#; s#VERSION#$version#; p" \
     "$top/tests/install/files.txt"
 }

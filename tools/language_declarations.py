@@ -85,7 +85,7 @@ MARK = "// Written by tools/write-derived.py from here on: edit ZRStringHandles.
 
 
 def files(folder, functions, constants):
-    """The text of each file of declarations: what is written by hand up to the mark, and the rest."""
+    """The text of each file of declarations: what is written by hand up to the mark, and more."""
     for function in functions:
         for kind, name in function.parameters:
             if kind not in TYPES:

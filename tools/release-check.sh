@@ -20,8 +20,8 @@ output of a part is in build/release-check/PART.log. -n only prints the commands
   packages      every package made twice: the same bytes
   aarch64, s390x, i386   the tests on these processors
   win32, win64           the tests and packages for Windows, under Wine; as root
-  bookworm, trixie       the README's commands and the packages on a bare Debian; as root, an hour
-Everything takes some three hours.
+  bookworm, trixie       the README's commands and the packages on a bare Debian; as root
+Everything takes 40 minutes on two cores, and half an hour more when ICU for Windows must be built.
 USAGE
 }
 
@@ -130,6 +130,6 @@ try trixie 'tests/bare-systems.sh trixie'
 merge "$rows" | tee "$table"
 [ ${#left[@]} -eq 0 ] || say "not tried: ${left[*]}"
 [ ${#failed[@]} -eq 0 ] || die "FAILED: ${failed[*]}"
-[ ${#left[@]} -gt 0 ] || ! grep -vxFf docs/platforms.md "$table" ||
-  die "docs/platforms.md lacks these rows"
+[ ${#left[@]} -gt 0 ] || diff <(sed -n '/^| System /,/^$/{/^|/p}' docs/platforms.md) "$table" ||
+  die "docs/platforms.md has another table"
 say "passed: ZRString $version${left[*]:+, as far as it was tried}"

@@ -21,7 +21,7 @@ else:
     # As str, a sequence without being derived from Sequence: isinstance() takes longer with that.
     _SequenceOfUnits = object
 
-MAX_LENGTH = 0x7FFFFFF5  # of a text, in units: for longer ones ICU writes outside its storage
+MAX_LENGTH = 0x7FFFFFF5  # of a text, in units: the longest that the library creates
 _SMALL = 2**14  # units. Up to here, free memory is not checked beforehand.
 
 # What `options` of BaseString.icompare() may be.
@@ -782,7 +782,7 @@ class MutableString(BaseString):
         return True
 
     def pad_leading(self, width: int, unit: AnyString = " ") -> bool:
-        """Puts `unit` before the text until it has `width` units. Returns whether it was shorter."""
+        """Puts `unit` before the text until it has `width` units; returns whether it was shorter."""
         return self._pad(_pad_leading, width, unit)
 
     def pad_trailing(self, width: int, unit: AnyString = " ") -> bool:

@@ -147,8 +147,8 @@ def _error(function: str, status: int) -> Exception:
 
 
 class _Statuses(Dict[int, None]):
-    """Looking up a status other than 0 raises. ctypes does that after a call, and looking up 0 takes
-    less time than calling a function."""
+    """Looking up a status other than 0 raises. ctypes does that after a call, and looking up 0
+    takes less time than calling a function."""
 
     def __init__(self, function: str) -> None:
         super().__init__({0: None})

@@ -127,8 +127,9 @@ class Examples(unittest.TestCase):
             name, _, arguments = command.partition(" ")
             if name.endswith("-short") and not shutil.which(name):
                 continue  # a package of the examples
+            complaint = name.removesuffix("-short") + ": " + complaint
             for program in LOOKUPS if name == "lookup" else [name]:
-                self.check(f"{program} {arguments}", "", name.removesuffix("-short") + ": " + complaint)
+                self.check(f"{program} {arguments}", "", complaint)
         for lookup in LOOKUPS[1:]:
             complaint = "lookup: cannot load the ZRString library"
             self.check("env ZRSTRING_LIBRARY=missing " + lookup, "", complaint)
