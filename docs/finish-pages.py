@@ -1,13 +1,17 @@
 #!/usr/bin/env python3
-"""Makes the search of the reference pages find names and titles by each of their words.
+"""Makes the search of the reference pages find names and titles by each of their words, and the
+side bar find functions with long comments.
 
-usage: add-search-words.py HTML_FOLDER
+usage: finish-pages.py HTML_FOLDER
 
 Doxygen's search compares the beginning of names only. This script adds an entry for every word of a
 name (so that "utf8" finds FromUtf8()), for every heading, and for what the first columns of the
 tables of questions and of the names in other libraries say. The entries are those of the search in
 everything, whose files are search/all_NUMBER.js; the number is the place of the entries' first
 letter in a list in search/searchdata.js. Doxygen 1.9.4 has an HTML file beside each of them.
+
+The side bar names the members of a namespace below their header, where those with long comments
+have no anchor: its links go to the namespace's page instead.
 """
 import html
 import pathlib
@@ -54,8 +58,24 @@ def places(page):
             yield plain(cell), title, target
 
 
+def mend_side_bar(folder):
+    anchors = {page.name: set(re.findall(r' id="(\w+)"', page.read_text("utf-8")))
+               for page in folder.glob("*.html")}
+    homes = {name: page for page, names in anchors.items() if page.startswith("namespace")
+             for name in names}
+
+    def mended(link):
+        page, name = link[1], link[2]
+        return f'"{page if name in anchors[page] else homes.get(name, page)}#{name}"'
+
+    for script in folder.glob("*.js"):
+        text = script.read_text("utf-8")
+        script.write_text(re.sub(r'"(\w+\.html)#(\w+)"', mended, text), "utf-8")
+
+
 def main():
     folder = pathlib.Path(sys.argv[1])
+    mend_side_bar(folder)
     search = folder / "search"
     data = (search / "searchdata.js").read_text("utf-8")
     letters = LETTERS.search(data)[2]
