@@ -54,6 +54,18 @@ TEST(ErrorState, EndsOnlyWithANewText) {
     return ExpectNoText(string), string;
   };
   EXPECT_FALSE(lost() == Make(u""));
+  const ZRString abc = Make(u"abc");
+  const auto* const raw = Raw(u"abc");
+  for (const int order : std::initializer_list<int>{
+           string.Compare(0, -1, abc, 0, -1), string.Compare(0, -1, raw, 0, -1),
+           string.CompareBetween(0, 2, abc, 0, 2), -abc.Compare(0, -1, string, 0, -1),
+           string.CompareCodePointOrder(0, -1, abc, 0, -1),
+           string.CompareCodePointOrder(0, -1, raw, 0, -1),
+           string.CompareCodePointOrderBetween(0, 2, abc, 0, 2),
+           -abc.CompareCodePointOrder(0, -1, string, 0, -1), string.ICompare(0, -1, abc, 0, -1, 0),
+           string.ICompare(0, -1, raw, 0, -1, 0), string.ICompareBetween(0, 2, abc, 0, 2, 0),
+           -abc.ICompare(0, -1, string, 0, -1, 0)})
+    EXPECT_EQ(order, -1);
   ZRStringMutator other(Make(u"abc"));
   EXPECT_EQ(TextOf(other.FindAndReplace(0, -1, Make(u"b"), 0, -1, string, 0, -1)), u"abc");
   EXPECT_EQ(TextOf(lost().SetTo(Make(u"xyz"), 1, 1)), u"y");

@@ -80,7 +80,7 @@ TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
         const std::size_t shared = random() % (place + 1);  // may be half of a pair
         left.insert(shared, 1, kUnits[random() % kUnits.size()]);
         right.insert(shared, 1, left[shared]);
-        left[place] = kUnits[random() % kUnits.size()];
+        left[place] = random() % 2 ? letter : kUnits[random() % kUnits.size()];
         right[place] = kUnits[random() % kUnits.size()];
         right.resize(right.size() - random() % 2);
         ExpectIcusAnswers(left, right, static_cast<ZRLong>(random() % 2));
@@ -113,6 +113,35 @@ TEST(FastPath, EveryCodePointIsNormalizedOrNotAsByIcu) {
       ASSERT_EQ(string.Normalize(static_cast<ZRStringNormalizationMode>(row.mode)), !normalized)
           << "Normalize, mode " << row.mode << ", U+" << std::hex << c;
     }
+}
+
+TEST(FastPath, RangesOfTwoLettersAreSearchedAndEditedAsByIcu) {
+  std::mt19937 random;
+  const auto letters = [&](std::size_t length) {
+    Text text(length, u'a');
+    std::for_each(text.begin(), text.end(), [&](char16_t& unit) { unit += random() % 2; });
+    return text;
+  };
+  for (int i = 0; i < 20000; ++i) {
+    const Text text = letters(random() % 90), oldText = letters(1 + random() % 5);
+    const Text newText = letters(random() % 60);
+    const auto start = static_cast<ZRLong>(random() % 30),
+               count = static_cast<ZRLong>(random() % 60);
+    SCOPED_TRACE(testing::PrintToString(text) + ", " + testing::PrintToString(oldText) + " by " +
+                 testing::PrintToString(newText));
+    const ZRString pattern = Make(oldText);
+    icu::UnicodeString expected = Icu(text);
+    ZRStringMutator string;
+    string.SetTo(Raw(text), expected.length());
+    ASSERT_EQ(string.Find(pattern, 0, -1, start, count),
+              expected.indexOf(Icu(oldText), start, count))
+        << "Find, from " << start << ", " << count;
+    expected.findAndReplace(start, count, Icu(oldText), 0, INT32_MAX, Icu(newText), 0, INT32_MAX);
+    string.FindAndReplace(start, count, pattern, 0, -1, Make(newText), 0, -1);
+    ASSERT_EQ(TextOf(string), Text(expected.getBuffer(), expected.length()))
+        << "FindAndReplace, from " << start << ", " << count;
+    ASSERT_EQ(string.GetCapacity(), expected.getCapacity()) << "FindAndReplace";
+  }
 }
 
 TEST(FastPath, FindAndReplaceLeavesIcusTextAndCapacity) {
