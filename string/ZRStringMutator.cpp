@@ -27,10 +27,10 @@ namespace {
 
 /// SetTo() with units whose number had to be measured, or is great.
 [[gnu::noinline, gnu::cold]] void SetToUnlessTooLong(icu::UnicodeString& text, Units units) {
-  if (units.count > kMaxLength)
-    text.setToBogus();
-  else
+  if (units.count <= kMaxLength)
     text.setTo(units.first, units.count);
+  else if (text.getBuffer())  // else it is open, and setToBogus() would free it
+    text.setToBogus();
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ TEST_F(Allocation, FailureChangesNothingOrIsInTheErrorState) {
           World world(variant);
           for (int i = 0; i < 6; ++i)
             world.Step();
+          ASSERT_FALSE(HasFailure()) << "no allocation has failed yet";
           failed = world.Step(operation, form, point, count);
         }
         EXPECT_TRUE(HasFailure() || heap.live == before) << heap.live - before << " blocks leak";

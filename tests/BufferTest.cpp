@@ -20,6 +20,7 @@ static void ExpectNoText(ZRStringMutator& string) {
   EXPECT_FALSE((string.PadLeading(5, 'x'), string.GetBuffer()));
   EXPECT_FALSE((string.PadTrailing(5, 'x'), string.GetBuffer()));
   EXPECT_FALSE((string.Truncate(1), string.GetBuffer()));
+  EXPECT_FALSE(string.SetTo(Raw(u"x"), INT_MAX).GetBuffer());
   EXPECT_FALSE((string.ReleaseBuffer(-2), string.GetBuffer()));
   EXPECT_EQ(string.GetBuffer(9), nullptr);
   EXPECT_EQ(string.GetTerminatedBuffer(), nullptr);
@@ -40,8 +41,8 @@ TEST(Buffer, CallsOutOfOrderChangeNothingAndTheCapacityBoundsTheLength) {
     const ZRLong capacity = string.GetCapacity();
     std::fill_n(units, capacity, static_cast<unsigned short>('x'));
     string.ReleaseBuffer(released);
-    EXPECT_EQ(TextOf(string), Text(capacity, u'x'));
-    EXPECT_EQ(BodyOf(string), BodyOf(copy));
+    EXPECT_EQ(TextOf(string), Text(capacity, u'x')) << "ReleaseBuffer";
+    EXPECT_EQ(BodyOf(string), BodyOf(copy)) << "ReleaseBuffer";
   }
 }
 

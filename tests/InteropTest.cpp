@@ -160,7 +160,7 @@ TEST(Interop, ShortBuffersGetWholeCharactersAndAZeroByte) {
       continue;
     std::string expected = utf8.substr(0, fits) + std::string(1, '\0');
     expected.resize(capacity, 'x');
-    EXPECT_EQ(std::string(buffer.data(), capacity), expected);
+    EXPECT_EQ(std::string(buffer.data(), capacity), expected) << "ZRStringExtractIntoUtf8";
   }
 }
 
@@ -201,7 +201,7 @@ TEST(Interop, KeysOfContainers) {
       EXPECT_EQ(ZRStringLess()(right, string), right < left);
     });
   });
-  EXPECT_EQ(hashes.size(), 1u + 7 + 7 * 7);
+  EXPECT_EQ(hashes.size(), 1u + 7 + 7 * 7) << "different values of std::hash";
 }
 
 TEST(Interop, OperatorsWithTexts) {
@@ -357,7 +357,7 @@ TEST(Interop, Printing) {
   ZRStringMutator open(u"abc"_zr);
   open.GetBuffer(-1);
   EXPECT_EQ(testing::PrintToString(open),
-            "(no text: its buffer is open, or ICU ran out of memory)");
+            "(no text: its buffer is open, or ICU could not hold it)");
   EXPECT_EQ(std::hash<ZRString>()(open), std::hash<ZRString>()(u""_zr));
 }
 

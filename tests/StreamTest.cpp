@@ -28,8 +28,10 @@ TEST(Stream, AStringIsExactlyTheseCallsAndIsKeptIfOneThrows) {
     for (const bool reversed : {false, true}) {
       ZRStringMutator string(Make(text));
       Recorder stream(calls);
+      SCOPED_TRACE(reversed ? "string >> stream, then string << stream"
+                            : "stream << string >> string");
       EXPECT_EQ(&(reversed ? string >> stream : stream << string), &stream);
-      EXPECT_EQ(stream.output, calls);
+      EXPECT_EQ(stream.output, calls) << "writing";
 
       string = Make(u"abc");
       for (auto call = calls.begin(); call != calls.end(); ++call) {
@@ -40,8 +42,8 @@ TEST(Stream, AStringIsExactlyTheseCallsAndIsKeptIfOneThrows) {
         EXPECT_EQ(TextOf(string), u"abc");
       }
       EXPECT_EQ(&(reversed ? string << stream : stream >> string), &stream);
-      EXPECT_EQ(TextOf(string), text.empty() ? u"abc" : text);
-      EXPECT_EQ(stream.consumed, calls.size());
+      EXPECT_EQ(TextOf(string), text.empty() ? u"abc" : text) << "reading";
+      EXPECT_EQ(stream.consumed, calls.size()) << "reading";
     }
   }
 }
@@ -62,9 +64,9 @@ TEST(Stream, AnArrayIsExactlyTheseCallsAndGetsWhatIsComplete) {
   }
   Recorder stream(calls);
   EXPECT_EQ(&(stream << array >> array), &stream);
-  EXPECT_EQ(stream.output, calls);
-  EXPECT_EQ(stream.consumed, calls.size());
-  EXPECT_EQ(array.Size(), 6u);
+  EXPECT_EQ(stream.output, calls) << "stream << array";
+  EXPECT_EQ(stream.consumed, calls.size()) << "stream >> array";
+  EXPECT_EQ(array.Size(), 6u) << "stream >> array";
   for (int i = 3; i < 6; ++i) {
     EXPECT_EQ(TextOf(*array[i]), kRecords[i - 3].first);
     EXPECT_EQ(dynamic_cast<ZRStringMutator*>(array[i]), nullptr);

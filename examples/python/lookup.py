@@ -10,7 +10,6 @@ counted from 1. Exits with status 2 if the list cannot be read.
 import bisect
 import functools
 import itertools
-import re
 import sys
 
 try:
@@ -34,7 +33,8 @@ def from_utf8(data):
 
 def entries_of(data, decoded):
     """A string for each line that is not empty; lines end in LF or CR LF."""
-    return [decoded(line) for line in re.split(rb"\r?\n", data) if line]
+    lines = [line.removesuffix(b"\r") for line in data.split(b"\n")]
+    return [decoded(line) for line in lines if line]
 
 
 def without_repetitions(entries):

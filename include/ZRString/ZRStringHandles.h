@@ -45,7 +45,7 @@ typedef struct ZRStringPtrArrayRef__ ZRStringPtrArrayRef__;  ///< An array of st
 
 /// Statuses. An invalid parameter has kZRStatusFirstParameter - 1 + its position, counted from 1.
 enum {
-  kZRStatusSuccess = 0,         ///< The call was made; all out-parameters are written.
+  kZRStatusSuccess = 0,         ///< The call was made, and what it returns is written.
   kZRStatusFirstParameter = 4,  ///< The first parameter is invalid; 5: the second. Since 1.1.
   kZRStatusIndexOutside = 12    ///< Arrays only: index outside the array, or array not created.
 };
@@ -334,15 +334,15 @@ ZR_API ZRLong ZR_CALL ZRMutableStringRemoveBetween(ZRMutableStringRef__* string,
                                                    ZRLong end);
 
 /// Inserts `padUnit` at the front until the string has `targetLength` units. `*padded` becomes 1 if
-/// it was shorter, 0 otherwise.
+/// it was shorter, 0 otherwise, or if ICU cannot hold that many units: the text is then lost.
 ///
 /// Calls ZRStringMutator::PadLeading.
 /// @return 0; 4 string is null; 5 targetLength is negative; 7 padded is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringPadLeading(ZRMutableStringRef__* string, ZRLong targetLength,
                                                 unsigned short padUnit, unsigned char* padded);
 
-/// Appends `padUnit` until the string has `targetLength` units. `*padded` becomes 1 if it was
-/// shorter, 0 otherwise.
+/// Appends `padUnit` until the string has `targetLength` units. `*padded` becomes 1 or 0 as in
+/// ZRMutableStringPadLeading().
 ///
 /// Calls ZRStringMutator::PadTrailing.
 /// @return 0; 4 string is null; 5 targetLength is negative; 7 padded is null.

@@ -482,7 +482,8 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
 /// or in ICU's error state is empty. One in the error state, however, neither begins nor ends with
-/// another text, even an empty one, nor does another with it, and it replaces nothing.
+/// a text that is in another state, even an empty one, nor does that with it, and it replaces
+/// nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));
@@ -630,7 +631,7 @@ inline std::ostream& operator<<(std::ostream& stream, const ZRString& string) {
 /// surrogates as numbers. GoogleTest calls this function to print strings.
 inline void PrintTo(const ZRString& string, std::ostream* stream) {
   if (!string.GetBuffer()) {
-    *stream << "(no text: its buffer is open, or ICU ran out of memory)";
+    *stream << "(no text: its buffer is open, or ICU could not hold it)";
     return;
   }
   using ZRStringInteropDetail::IsLead;

@@ -20,8 +20,8 @@
 #endif
 
 /// @def ZR_CALL
-/// The calling convention of every function that is not a member of a class: `__cdecl` on 32-bit
-/// Windows, even where the compiler's default is another one, and the platform's only one
+/// The calling convention of every exported function that is not a member of a class: `__cdecl` on
+/// 32-bit Windows, even where the compiler's default is another one, and the platform's only one
 /// elsewhere.
 /// @since 1.1
 #if defined(_WIN32) && !defined(_WIN64)

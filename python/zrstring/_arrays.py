@@ -34,8 +34,14 @@ _erase = handles.ZRStringPtrArrayErase.prepared()
 _erase_all = handles.ZRStringPtrArrayEraseAll.prepared()
 
 
-def _kept(value: AnyString, name: str = "string") -> BaseString:
+def _kept(value: AnyString, name: str) -> BaseString:
     return value if isinstance(value, BaseString) else String._made(_operand(value, name))
+
+
+def _reserve(entries: int) -> None:
+    """As for strings: the library could not report that it has no memory for so many entries."""
+    if entries > 2**12:
+        bytearray(2 * ctypes.sizeof(ctypes.c_void_p) * entries)
 
 
 def _all_kept(values: Iterable[AnyString], name: str) -> List[BaseString]:
@@ -68,7 +74,7 @@ class StringArray(MutableSequence[BaseString]):
         new._lock = threading.Lock()
         new._strings = []
         new._handle = _create()
-        new.extend(strings)
+        new._become(_all_kept(strings, "strings"))
         return new
 
     @classmethod
@@ -117,6 +123,7 @@ class StringArray(MutableSequence[BaseString]):
         return self._strings[_integer(index, "index")]
 
     def _become(self, strings: List[BaseString]) -> None:
+        _reserve(len(strings))
         _erase_all(self._handle)
         for string in strings:
             _push_back(self._handle, string._handle)
@@ -139,7 +146,7 @@ class StringArray(MutableSequence[BaseString]):
                 all_strings[index] = strings
                 self._become(all_strings)
         else:
-            string, index = _kept(value), _integer(index, "index")
+            string, index = _kept(value, "value"), _integer(index, "index")
             with self._lock:
                 place = self._place(index)
                 _set(self._handle, place, string._handle)
@@ -165,6 +172,7 @@ class StringArray(MutableSequence[BaseString]):
         with self._lock:
             size = len(self._strings)
             place, _ = _indices(index, None, size)
+            _reserve(size + 1)
             self._strings.insert(place, string)
             if place == size:
                 _push_back(self._handle, string._handle)

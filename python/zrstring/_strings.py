@@ -264,8 +264,10 @@ class BaseString(_SequenceOfUnits):
         if isinstance(key, slice):
             start, stop, step = key.indices(length)
             if step == 1:
-                _reserve(max(stop - start, 0))
-                copy = _copy_range(handle, start, max(stop - start, 0))
+                size = max(stop - start, 0)
+                if size < length:  # else the copy shares the text
+                    _reserve(size)
+                copy = _copy_range(handle, start, size)
             else:
                 units = memoryview(self._units()).cast("H")[key]
                 copy = _made_by(_create, units.tobytes())
@@ -704,8 +706,8 @@ class MutableString(BaseString):
     def __delitem__(self, key: Union[int, slice]) -> None:
         if not isinstance(key, slice):
             key = self._slice_of(key)
-        if key.step is None or len(range(*key.indices(len(self)))) == 0:
-            self._set_slice(slice(key.start, key.stop), _operand("", "text"))
+        if key.step is None:
+            self._set_slice(key, _operand("", "text"))
         else:
             units = array.array("H", self._units())
             del units[key]
@@ -726,6 +728,9 @@ class MutableString(BaseString):
             self._edited(longest, _replace, start, removed, operand)
         else:
             units = array.array("H", self._units())
+            size, given = len(range(*key.indices(len(units)))), _length(operand)
+            if size != given:
+                raise ValueError(f"a slice of {size} units cannot be replaced by {given}")
             units[key] = array.array("H", String._made(_copy(operand))._units())
             self.set(String._made(_made_by(_create, units.tobytes())))
 

@@ -54,7 +54,7 @@ class StringRef(_Pointer):
     _type_ = ZRStringRef__
 
 
-class MutableStringRef(_Pointer):
+class MutableStringRef(StringRef):
     """The handle of a mutable string."""
 
     _type_ = ZRMutableStringRef__

@@ -35,6 +35,8 @@ CALLS = {
     "m.pad_leading(2**31)": "OverflowError: a text of 2147483648 code units is too long",
     "m.from_handle(handles.MutableStringRef())": "ValueError: handle is null",
     "handles.ZRStringDestroy(s)": REFUSED,
+    "handles.ZRStringGetLength.result(m), handles.ZRMutableStringTrim(s)": "TypeError: "
+    "ZRMutableStringTrim: string: expected MutableStringRef instance instead of _OwnedString",
     "handles.InsertZRStringRefAt.result(a, 0, None)": "InvalidArgument: " + INSERT,
     "handles.ZRStringGetBuffer.result(s)[0], m.from_handle(mutable).clear(), str(m)": "(97, m, '')",
     "copy.copy(s) is s, pickle.loads(pickle.dumps(s)), copy.deepcopy(a)": "(True, s, a)",
@@ -49,6 +51,7 @@ CALLS = {
 TEXTS = ["a", "b", "ab", "ba", "bab", "ß", "！", "a b", "xab", ""]
 RANGES = [(), (1,), (-3,), (0, 4), (2, -1), (-9, 9), (5, 2), (None, 3)]
 SLICES = [slice(*r) for r in RANGES[1:]] + [slice(None, None, -1), slice(1, 9, 2), slice(3, 3)]
+SLICES += [slice(0, 3, -1), slice(-99, None, -2)]
 INDICES = [0, 1, -1, -2, 5, 99, -99, True]
 SEARCHED = [(text, *r) for text in TEXTS if text for r in RANGES]
 # The methods that str has, and what they are called with: the result is what str gives.
@@ -138,7 +141,7 @@ class Package(unittest.TestCase):
                 model = randoms.choices("abß！x", k=randoms.randrange(12))
                 edited = make(model)
             edit, same = randoms.choice(edits)
-            values = [randoms.choice(values) for values in (INDICES, SLICES, TEXTS[:-1])]
+            values = [randoms.choice(values) for values in (INDICES, SLICES, TEXTS)]
             names = dict(zip(("key", "cut", "text"), values))
             before = f"{model} {edit} {values}"
             found = outcome(exec, edit, {name: edited, **names})
@@ -290,10 +293,13 @@ def fuzz(seed):
 
     if not limited:
         return
+    pages = int(pathlib.Path("/proc/self/statm").read_text().split()[0])
+    resource.setrlimit(resource.RLIMIT_AS, (pages * resource.getpagesize() + 2**26, 2**30))
     grown = MutableString("ab" * 40000)
     shared = String(grown)
     edits = ["grown *= 2"] * 20 + ["grown.replace('a', 'long')", "String(str(grown) * 9)"]
-    names = {"grown": grown, "String": String}
+    edits += ["array.extend(array._strings[::3])"] * 50
+    names = {"grown": grown, "String": String, "array": StringArray(["a"] * 9)}
     failed = {edit for edit in edits if outcome(exec, edit, names) == MemoryError}
     assert failed == set(edits) and grown[-1] == "b" and len(shared) == 80000, failed
 

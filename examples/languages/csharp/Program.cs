@@ -23,8 +23,8 @@ public class Text : IDisposable
 {
     public Text(string text)
     {
-        char[] units = text.ToCharArray();
-        int status = ZRStringCreateFromUniChars(units, 0, units.Length, out ZRStringRef handle);
+        char[] units = (text + '\0').ToCharArray(); // Mono passes an empty array as null
+        int status = ZRStringCreateFromUniChars(units, 0, text.Length, out ZRStringRef handle);
         Check(nameof(ZRStringCreateFromUniChars), status);
         Handle = handle;
     }
