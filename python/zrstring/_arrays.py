@@ -2,7 +2,7 @@
 
 import ctypes
 import threading
-from typing import Any, Iterable, List, MutableSequence, Tuple, Type, TypeVar, Union, overload
+from typing import Any, Callable, Iterable, List, MutableSequence, Tuple, Type, TypeVar, Union, overload
 
 from . import handles
 from ._strings import AnyString, BaseString, String, _indices, _integer, _operand, _wrong, borrowed
@@ -36,6 +36,12 @@ _erase_all = handles.ZRStringPtrArrayEraseAll.prepared()
 
 def _kept(value: AnyString, name: str) -> BaseString:
     return value if isinstance(value, BaseString) else String._made(_operand(value, name))
+
+
+def _integers(cut: slice) -> slice:
+    """The same slice of integers, whose conversion may run code of the program."""
+    parts = (cut.start, cut.stop, cut.step)
+    return slice(*[None if part is None else _integer(part, "index") for part in parts])
 
 
 def _reserve(entries: int) -> None:
@@ -74,7 +80,8 @@ class StringArray(MutableSequence[BaseString]):
         new._lock = threading.Lock()
         new._strings = []
         new._handle = _create()
-        new._become(_all_kept(strings, "strings"))
+        kept = _all_kept(strings, "strings")
+        new._edit_all(lambda entries: entries.extend(kept))
         return new
 
     @classmethod
@@ -122,12 +129,34 @@ class StringArray(MutableSequence[BaseString]):
             return type(self)(self._strings[index])
         return self._strings[_integer(index, "index")]
 
-    def _become(self, strings: List[BaseString]) -> None:
-        _reserve(len(strings))
+    def _write(self, strings: List[BaseString]) -> None:
         _erase_all(self._handle)
         for string in strings:
             _push_back(self._handle, string._handle)
-        self._strings = strings
+
+    def _edit(self, edit: Callable[[], object]) -> object:
+        """Edits the list and the array, which afterwards are the same even if this is interrupted.
+        Returns what the edit removed: its destruction may run code of the program, which must find
+        the lock free."""
+        with self._lock:
+            try:
+                return edit()
+            except IndexError:  # before anything has changed
+                raise
+            except BaseException:
+                self._write(self._strings)
+                raise
+
+    def _edit_all(self, edit: Callable[[List[BaseString]], object]) -> None:
+        def replace_all() -> object:
+            strings = self._strings[:]
+            edit(strings)
+            _reserve(len(strings))
+            self._write(strings)
+            removed, self._strings = self._strings, strings
+            return removed
+
+        self._edit(replace_all)
 
     def _place(self, index: int) -> int:
         if not -len(self._strings) <= index < len(self._strings):
@@ -140,44 +169,46 @@ class StringArray(MutableSequence[BaseString]):
     def __setitem__(self, index: slice, value: Iterable[AnyString]) -> None: ...
     def __setitem__(self, index: Union[int, slice], value: Any) -> None:
         if isinstance(index, slice):
-            strings = _all_kept(value, "value")
-            with self._lock:
-                all_strings = self._strings[:]
-                all_strings[index] = strings
-                self._become(all_strings)
-        else:
-            string, index = _kept(value, "value"), _integer(index, "index")
-            with self._lock:
-                place = self._place(index)
-                _set(self._handle, place, string._handle)
-                # What this may destroy waits until the lock is free.
-                string, self._strings[place] = self._strings[place], string
+            strings, cut = _all_kept(value, "value"), _integers(index)
+            return self._edit_all(lambda entries: entries.__setitem__(cut, strings))
+        string, number = _kept(value, "value"), _integer(index, "index")
+
+        def replace() -> BaseString:
+            place = self._place(number)
+            _set(self._handle, place, string._handle)
+            removed, self._strings[place] = self._strings[place], string
+            return removed
+
+        self._edit(replace)
 
     def __delitem__(self, index: Union[int, slice]) -> None:
         if isinstance(index, slice):
-            with self._lock:
-                all_strings = self._strings[:]
-                del all_strings[index]
-                self._become(all_strings)
-        else:
-            index = _integer(index, "index")
-            with self._lock:
-                place = self._place(index)
-                _erase(self._handle, place)
-                self._strings.pop(place)
+            cut = _integers(index)
+            return self._edit_all(lambda entries: entries.__delitem__(cut))
+        number = _integer(index, "index")
+
+        def erase() -> BaseString:
+            place = self._place(number)
+            _erase(self._handle, place)
+            return self._strings.pop(place)
+
+        self._edit(erase)
 
     def insert(self, index: int, value: AnyString) -> None:
         """Inserts a string before the entry at `index`, which may lie outside, as for a list."""
-        string, index = _kept(value, "value"), _integer(index, "index")
-        with self._lock:
+        string, number = _kept(value, "value"), _integer(index, "index")
+
+        def insert() -> None:
             size = len(self._strings)
-            place, _ = _indices(index, None, size)
+            place, _ = _indices(number, None, size)
             _reserve(size + 1)
             self._strings.insert(place, string)
             if place == size:
                 _push_back(self._handle, string._handle)
             else:
                 _insert(self._handle, place, string._handle)
+
+        self._edit(insert)
 
     def append(self, value: AnyString) -> None:
         """Adds a string at the end."""
@@ -186,8 +217,7 @@ class StringArray(MutableSequence[BaseString]):
     def extend(self, values: Iterable[AnyString]) -> None:
         """Adds strings at the end."""
         strings = _all_kept(values, "values")
-        with self._lock:
-            self._become(self._strings + strings)
+        self._edit_all(lambda entries: entries.extend(strings))
 
     def clear(self) -> None:
         """Removes all entries."""

@@ -14,6 +14,7 @@ import subprocess
 import sys
 import unittest
 import unittest.mock
+import weakref
 
 import zrstring
 from zrstring import MutableString, String, StringArray, _arrays, _strings, handles
@@ -168,6 +169,19 @@ class Package(unittest.TestCase):
             self.assertEqual(str(text), "as it was" * 9999)
         with unittest.mock.patch.object(_strings, "_find", lambda *a: sub.set("a") and find(*a)):
             self.assertEqual(String("aaa").count(sub), 1)
+
+    def test_array_is_edited_by_what_its_edits_destroy_and_survives_interruptions(self):
+        for edit in ("del a[0]", "a.clear()", "a[0] = 'x'", "a[:] = 'xy'", "a.remove('one')"):
+            array = StringArray(["one", "two"])
+            weakref.finalize(array[0], array.append, "gone")
+            exec(edit, {"a": array})
+            check_that_the_library_has_the_same(array)
+            self.assertEqual(str(array[-1]), "gone")
+        interrupted = unittest.mock.Mock(wraps=_arrays._push_back)
+        interrupted.side_effect = [KeyboardInterrupt] + [unittest.mock.DEFAULT] * 9
+        with unittest.mock.patch.object(_arrays, "_push_back", interrupted):
+            self.assertRaises(KeyboardInterrupt, array.extend, "abc")
+        check_that_the_library_has_the_same(array)
 
     def test_every_unit_passes_both_ways(self):
         units = "".join(map(chr, range(0xFFFF, -1, -1)))
