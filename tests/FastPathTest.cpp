@@ -156,6 +156,27 @@ TEST(FastPath, RangesOfFewLettersAreComparedSearchedAndEditedAsByIcu) {
   }
 }
 
+TEST(FastPath, FindAndReplaceReadsItsOwnTextAsItWas) {
+  for (const int overload : {0, 1, 2, 3}) {
+    ZRStringMutator text(Make(u"abcabcabc"));
+    const unsigned short* const own = text.GetTerminatedBuffer();
+    switch (overload) {
+      case 0:
+        text.FindAndReplace(0, -1, text, 0, 1, text, 1, 2);
+        break;
+      case 1:
+        text.FindAndReplace(0, -1, text, 0, 1, own, 1, 2);
+        break;
+      case 2:
+        text.FindAndReplace(0, -1, own, 0, 1, text, 1, 2);
+        break;
+      default:
+        text.FindAndReplace(0, -1, own, 0, 1, own, 1, 2);
+    }
+    EXPECT_EQ(TextOf(text), u"bcbcbcbcbcbc") << "FindAndReplace, overload " << overload;
+  }
+}
+
 TEST(FastPath, NewTextsHaveTheSmallestStorage) {
   for (int length = 0; length < 100; ++length) {
     const Text text(length, u'x');

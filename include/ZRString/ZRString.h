@@ -68,8 +68,9 @@ class ZRStringHolderCount {
 /// @endcode
 ///
 /// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings created
-/// from a handle, and strings created from the whole of another string share the body of their
-/// source, which takes an addition and no allocation. The last holder destroys the body. Only
+/// from a handle, and strings created from a range of another string with a start of 0 and a length
+/// of -1 or exactly that string's share the body of their source, which takes an addition and no
+/// allocation. The last holder destroys the body. Only
 /// ZRStringMutator changes text, and it first gets a body of its own. At most 2147483647 strings
 /// may share a body; one more is undefined behaviour.
 ///

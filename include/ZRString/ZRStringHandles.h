@@ -88,8 +88,8 @@ ZR_API ZRLong ZR_CALL ZRStringCreateFromCString(const char* text, ZRLong start, 
 /// @return 0; 4 source is null; 5 out is null.
 ZR_API ZRLong ZR_CALL ZRStringCreateCopy(ZRStringRef__* source, ZRStringRef__** out);
 
-/// Creates a string from a range of `source`; `length` may be -1. If the range is the whole of
-/// `source`, the text is shared.
+/// Creates a string from a range of `source`; `length` may be -1. With a start of 0 and a length of
+/// -1 or exactly that of `source`, the text is shared.
 /// @return 0; 4 source is null; 5 start is negative; 6 length is below -1; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRStringCreateCopyRange(ZRStringRef__* source, ZRLong start, ZRLong length,
                                               ZRStringRef__** out);
@@ -232,8 +232,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringCreateFromUniChars(const unsigned short* ch
 /// @return 0; 4 source is null; 5 out is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateCopy(ZRStringRef__* source, ZRMutableStringRef__** out);
 
-/// Creates a mutable string from a range of `source`; `length` may be -1. If the range is the whole
-/// of `source`, the text is shared.
+/// Creates a mutable string from a range of `source`; `length` may be -1. With a start of 0 and a
+/// length of -1 or exactly that of `source`, the text is shared.
 /// @return 0; 4 source is null; 5 start is negative; 6 length is below -1; 7 out is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringCreateCopyRange(ZRStringRef__* source, ZRLong start,
                                                      ZRLong length, ZRMutableStringRef__** out);
