@@ -77,6 +77,7 @@ int main() {
   ZR_ROW("t.remove(0, 4)", ZRStringMutator(t).Remove(0, 4));
   ZR_ROW("t.truncate(2)",
          ZRStringMutator(t).Truncate(2) != 0);
+  ZR_ROW("t.clear()", ZRStringMutator(t).Truncate(0) != 0);
   ZR_ROW("s.compare(u\"UN, DEUX, UN\", Qt::CaseInsensitive)",
          s.ICompare(0, -1, UpperCase(s), 0, -1,
                     kZRCompareIgnoreCase));

@@ -8,8 +8,7 @@
 //! [check]
 static void Check(ZRLong status) {
   if (status != kZRStatusSuccess) {
-    fprintf(stderr, "parameter %d is invalid\n",
-            (int)status - kZRStatusFirstParameter + 1);
+    fprintf(stderr, "status %d\n", (int)status);
     exit(EXIT_FAILURE);
   }
 }

@@ -481,9 +481,9 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
-/// or in ICU's error state is empty. One in the error state, however, neither begins nor ends with
-/// a text that is in another state, even an empty one, nor does that with it, and it replaces
-/// nothing.
+/// or in ICU's error state is empty. But one in the error state begins and ends only with a text in
+/// the same state; no other text, not even an empty one, begins or ends with it; and
+/// ReplacedAll() with it as the new part changes nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));
