@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Tries the project on a bare Debian 12 and a bare Debian 13. Takes 20 minutes and must be run as root.
+# Tries the project on a bare Debian 12 and a bare Debian 13, in 20 minutes. Must be run as root.
 #   install   follows "Install it" of the README to the letter and builds the README's programs
 #   packages  makes the Debian packages twice, has lintian check them, and installs them elsewhere
 #   run       runs ./run-example and ./run-tests, each twice
