@@ -1,6 +1,6 @@
 /* Looks up a word in a word list with one entry per line, through the handle interface. Both are in
  * UTF-8 or, by an option, in windows-1252. The list is sorted in linguistic order, and entries that
- * differ from an earlier one only in case are dropped. */
+ * equal an earlier one without regard to case are dropped. */
 
 #include <ZRString/ZRStringUtf8.h>
 #include <errno.h>
@@ -18,7 +18,8 @@ static void Fail(const char* what, const char* subject) {
   exit(2);
 }
 
-/* A status other than 0 means an invalid argument, which would be a bug of this program. */
+/* A status other than 0 means an invalid argument, which would be a bug of this program, or that
+ * there is no memory for the array. */
 static void Check(ZRLong status) {
   if (status != kZRStatusSuccess) {
     fprintf(stderr, "lookup: unexpected status %ld\n", (long)status);
@@ -37,7 +38,7 @@ static int InOrder(const void* left, const void* right) {
                       kZRCompareCollated);
 }
 
-/* Puts entries that differ only in case next to each other, in linguistic order. */
+/* Puts entries that are equal without regard to case next to each other, in linguistic order. */
 static int ByText(const void* left, const void* right) {
   const ZRLong order =
       Compare(*(ZRStringRef__* const*)left, *(ZRStringRef__* const*)right, kZRCompareIgnoreCase);
@@ -109,7 +110,7 @@ static ZRULong SizeOf(ZRStringPtrArrayRef__* words) {
   return size;
 }
 
-/* Sorts the list and drops entries that differ from an earlier one only in case. Arrays have no
+/* Sorts the list and drops entries that equal an earlier one without regard to case. Arrays have no
  * sort function: the handles are taken out, sorted and put back. */
 static void Sort(ZRStringPtrArrayRef__* words) {
   const ZRULong size = SizeOf(words);

@@ -1,5 +1,5 @@
 // Sorts a word list in windows-1252, with one entry per line, in linguistic order, drops entries
-// that differ from an earlier one only in case, saves the list to a file and looks up a word in it.
+// that equal an earlier one without regard to case, saves the list to a file and looks up a word in it.
 
 #include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringMutator.h>
@@ -43,9 +43,9 @@ constexpr const char* kUsage =
 constexpr const char* kHelp =
     "\n"
     "Sorts the lines of FILE, which are in windows-1252, in the linguistic order of the\n"
-    "default locale, and drops those that differ from an earlier one only in case.\n"
+    "default locale, and drops those that equal an earlier one without regard to case.\n"
     "\n"
-    "  --replace OLD NEW  replace OLD by NEW in every line first\n"
+    "  --replace OLD NEW  replace OLD by NEW in every line before sorting\n"
     "  --save LIST        save the result to the file LIST\n"
     "  --load LIST        start from a saved list\n"
     "  --find WORD        print the place of WORD in the list\n"
@@ -207,7 +207,7 @@ void Sort(WordList& words) {
   });
 }
 
-/// Deletes every entry that differs from an earlier one only in case.
+/// Deletes every entry that equals an earlier one without regard to case.
 void DropRepeated(WordList& words) {
   const auto before = [](const ZRString* left, const ZRString* right) {
     return Compare(*left, *right, kZRCompareIgnoreCase) < 0;

@@ -4,7 +4,8 @@
 #include "string/Handles.h"
 
 // A handle function states its tests as one list, FirstInvalid(...), with one entry per parameter
-// in parameter order, so that a parameter's position and its status cannot disagree.
+// in parameter order, so that a parameter's position and its status agree. Only
+// InsertZRStringRefAt() departs.
 
 constexpr bool NotNull(const void* pointer) { return pointer != nullptr; }
 constexpr bool NotNegative(ZRLong value) { return value >= 0; }

@@ -25,7 +25,7 @@ else()
 endif()
 
 # The stack protector guards the code that reads records and writes output; in string/ it would cost
-# 4 to 20 instructions in eight calls, and -fcf-protection would cost one or more in every call.
+# up to 25 instructions in some calls, and -fcf-protection would cost one or more in every call.
 # _FORTIFY_SOURCE needs optimization. If the compiler or the user has set it, that stays.
 option(ZRSTRING_HARDENING "Harden the library where that costs no instructions" ON)
 if(ZRSTRING_HARDENING)
@@ -49,7 +49,7 @@ if(ZRSTRING_HARDENING)
   endif()
 endif()
 
-# Inlining across the thin layers halves the cost of a handle function. lld would make an empty
+# Inlining across the thin layers saves instructions in most calls. lld would make an empty
 # library from GCC's intermediate code.
 include(CheckIPOSupported)
 check_ipo_supported(RESULT zrstring_ipo LANGUAGES CXX)

@@ -50,7 +50,7 @@ TEST(Unload, RunsTheCleanUpsAndReallyUnloads) {
         continue;  // until both threads are at their first use of the collator
       ZR_FUNCTION(ZRStringICompare)(text, 0, 1, text, 2, 1, 3, &result);
       ZR_FUNCTION(ZRStringDestroy)(text);
-      EXPECT_EQ(result, -1);
+      EXPECT_EQ(result, -1) << "ZRStringICompare, collated";
     };
     std::thread other(collate);
     collate();

@@ -1,6 +1,6 @@
 """Reads ZRStringHandles.h for the scripts that derive something from it or compare it.
 
-functions() and enumerators() raise ValueError for a header that they cannot read or whose statuses
+functions() raises ValueError for a header that they cannot read or whose statuses
 do not agree with its declarations.
 """
 

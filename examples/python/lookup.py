@@ -2,8 +2,8 @@
 
     lookup.py [--windows-1252] FILE WORD
 
-The list is sorted in the linguistic order of the default locale, and entries that differ from an
-earlier one only in case are dropped. Prints the number of the entry that the word is or would be,
+The list is sorted in the linguistic order of the default locale, and entries that equal an earlier
+one without regard to case are dropped. Prints the number of the entry that the word is or would be,
 counted from 1. Exits with status 2 if the list cannot be read.
 """
 
@@ -38,9 +38,10 @@ def entries_of(data, decoded):
 
 
 def without_repetitions(entries):
-    """The entries without those that differ from an earlier one only in case.
+    """The entries without those that equal an earlier one without regard to case.
 
-    Such entries need not be neighbours in linguistic order: "m2", "m²" and "M2" sort like this."""
+    Such entries need not be neighbours in linguistic order: in many locales, "m2", "m²" and "M2" sort
+    like this."""
     order = sorted(range(len(entries)), key=lambda index: folded(entries[index]))
     groups = itertools.groupby(order, key=lambda index: folded(entries[index]))
     return [entries[index] for index in sorted(next(group) for _, group in groups)]

@@ -28,11 +28,11 @@
 /// 7. **Exceptions.** Exceptions, `std::bad_alloc` included, propagate to the caller, and no
 ///    out-parameter is written; only the functions that create arrays return a status instead. A
 ///    caller that cannot catch C++ exceptions cannot survive running out of memory. A create
-///    function, and an edit that first has to copy shared text, also throw if ICU runs out of
-///    memory. An edit that ICU cannot complete loses the text, which then reads as empty (see
-///    ICU's error state in ZRStringMutator).
+///    function, and an edit that first has to copy a text, also throw if ICU runs out of memory. An
+///    edit that ICU cannot complete otherwise loses the text, whose length is then 0 (see ICU's
+///    error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
-///    one thread at a time, except for reading.
+///    one thread at a time, except for reading. Copying and destroying are not reading.
 /// 9. **Calling convention.** #ZR_CALL: `__cdecl` on 32-bit Windows.
 
 #ifdef __cplusplus
@@ -45,7 +45,7 @@ typedef struct ZRStringPtrArrayRef__ ZRStringPtrArrayRef__;  ///< An array of st
 
 /// Statuses. An invalid parameter has kZRStatusFirstParameter - 1 + its position, counted from 1.
 enum {
-  kZRStatusSuccess = 0,         ///< The call was made, and what it returns is written.
+  kZRStatusSuccess = 0,         ///< The call was made.
   kZRStatusFirstParameter = 4,  ///< The first parameter is invalid; 5: the second. Since 1.1.
   kZRStatusIndexOutside = 12    ///< Arrays only: index outside the array, or array not created.
 };
@@ -334,7 +334,7 @@ ZR_API ZRLong ZR_CALL ZRMutableStringRemoveBetween(ZRMutableStringRef__* string,
                                                    ZRLong end);
 
 /// Inserts `padUnit` at the front until the string has `targetLength` units. `*padded` becomes 1 if
-/// it was shorter, 0 otherwise, or if ICU cannot hold that many units: the text is then lost.
+/// units were inserted, 0 otherwise. If ICU cannot hold that many units, the text is lost.
 ///
 /// Calls ZRStringMutator::PadLeading.
 /// @return 0; 4 string is null; 5 targetLength is negative; 7 padded is null.
@@ -373,10 +373,12 @@ ZR_API ZRLong ZR_CALL ZRMutableStringToUpper(ZRMutableStringRef__* string);
 ZR_API ZRLong ZR_CALL ZRMutableStringToLower(ZRMutableStringRef__* string);
 
 /// Opens the string's own storage for writing, with room for at least `minCapacity` units (-1: the
-/// current capacity). `*buffer` becomes null if the buffer cannot be opened.
+/// capacity, of which a string that shared its text may lose some). `*buffer` becomes null if the
+/// buffer cannot be opened.
 ///
-/// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, do
-/// nothing else with the string, not even copy it: a copy would share what is written.
+/// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, ask
+/// for the capacity, but do nothing else with the string, not even copy it: a copy would share what
+/// is written.
 /// @return 0; 4 string is null; 5 minCapacity is below -1; 6 buffer is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringGetBufferWithCapacity(ZRMutableStringRef__* string,
                                                            ZRLong minCapacity,
@@ -388,8 +390,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringGetBufferWithCapacity(ZRMutableStringRef__*
 /// @return 0; 4 string is null; 5 capacity is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringGetCapacity(ZRMutableStringRef__* string, ZRLong* capacity);
 
-/// Closes the buffer and makes `newLength` the string's length; -1: up to the first zero unit in
-/// the buffer.
+/// Closes the buffer and sets the string's length to `newLength`, at most the capacity; -1: up to
+/// the first zero unit in the buffer, or the capacity. Without an open buffer, does nothing.
 ///
 /// Calls ZRStringMutator::ReleaseBuffer.
 /// @return 0; 4 string is null; 5 newLength is below -1.
@@ -417,8 +419,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringLastIndexOf(ZRMutableStringRef__* string, u
 /// @}
 /// @name Arrays of strings
 /// An array stores handles of strings that it does not own; only ZRStringPtrArrayDeleteAll()
-/// destroys them. An index is tested after all pointers, and an index outside the array gives
-/// #kZRStatusIndexOutside.
+/// destroys them. An index is tested after all pointers. One outside the array gives
+/// #kZRStatusIndexOutside, except from GetZRStringRefAt().
 /// @code{.c}
 /// ZRStringPtrArrayRef__* words;
 /// ZRStringRef__ *word, *entry;

@@ -43,16 +43,17 @@
 /// `<format>` of C++20, `std::formatter`, which formats a string like a `std::string` of its UTF-8.
 ///
 /// **Ill-formed text.** In UTF-8, each maximal subpart of an ill-formed sequence becomes one
-/// U+FFFD, as the Unicode standard recommends and ICU does. In UTF-16, each unpaired surrogate
-/// becomes U+FFFD. Zero bytes and zero units are characters like any other.
+/// U+FFFD, as the Unicode standard recommends and ICU does. ToUtf8() makes each unpaired surrogate
+/// U+FFFD. Zero bytes and zero units are characters like any other.
 ///
 /// **Open buffers and the error state.** A string with an open writable buffer, or in ICU's error
-/// state, reads as empty.
+/// state, reads as empty, except where a comment says otherwise.
 ///
-/// **Errors.** A text of 2^31 or more units throws `std::length_error`, also if it is given as
-/// UTF-8. UTF-8 may have any number of bytes. If memory runs out, ICU's included, or if ICU cannot
-/// hold a text so long, the functions throw `std::bad_alloc`. The header does not compile without
-/// exceptions.
+/// **Errors.** A text of 2^31 or more units throws `std::length_error` where a string is made from
+/// it, also from UTF-8, or where it is looked for; so does a sum of so many units. UTF-8 may have
+/// any number of bytes. If memory runs out, ICU's included, or if ICU cannot hold what a function
+/// makes, it throws `std::bad_alloc`; FromUtf8() may, if the text has nearly 2^31 units. The header
+/// does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -265,9 +266,9 @@ inline std::wstring ToWide(const ZRString& string) {
 }
 #endif
 
-/// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does. With it,
-/// `std::map<ZRString, Value, ZRStringLess>` can be searched for a `std::u16string_view` without
-/// creating a string.
+/// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does, but a text in
+/// ICU's error state as an empty one. With it, `std::map<ZRString, Value, ZRStringLess>` can be
+/// searched for a `std::u16string_view` without creating a string.
 /// @code
 /// const std::vector<ZRString> words = {u"deux"_zr, u"un"_zr};
 /// assert(ZRStringLess()(words[0], words[1]) && ZRStringLess()(words[1], u"une"));
@@ -284,8 +285,8 @@ struct ZRStringLess {
 
 /// @name Operators
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
-/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy, except that
-/// an operand in ICU's error state counts as empty. A mutator plus a string is what
+/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy. In both, a
+/// text in ICU's error state counts as empty. A mutator plus a string is what
 /// ZRStringMutator::operator+ makes of them.
 /// @code
 /// const ZRString name = u"un"_zr + u", deux";
@@ -478,7 +479,7 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 
 /// @}
 /// @name Short forms
-/// Each calls the member that its comment names, with default arguments. A `text` is a ZRString, or
+/// Most call the member that their comment names, with default arguments. A `text` is a ZRString, or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
 /// or in ICU's error state is empty. But one in the error state begins and ends only with a text in
@@ -543,8 +544,8 @@ enum ZREmptyParts {
   kZRSkipEmptyParts   ///< An empty text has no parts.
 };
 
-/// The parts of `text` between the occurrences of `separator`. Calls ZRString::Find. There is one
-/// part if `separator` is empty.
+/// The parts of `text` between the occurrences of `separator`. Calls ZRString::Find. An empty
+/// `separator` separates nothing.
 template <typename Text, ZRStringInteropDetail::IfText<Text> = 0>
 std::vector<ZRStringMutator> PartsOf(const Text& text,
                                      const ZRStringInteropDetail::Pattern& separator,
@@ -628,7 +629,7 @@ inline std::ostream& operator<<(std::ostream& stream, const ZRString& string) {
 }
 
 /// Prints `string` for debugging: as UTF-8 in quotation marks, with control characters and unpaired
-/// surrogates as numbers. GoogleTest calls this function to print strings.
+/// surrogates as numbers, or why it has no text. GoogleTest calls this function to print strings.
 inline void PrintTo(const ZRString& string, std::ostream* stream) {
   if (!string.GetBuffer()) {
     *stream << "(no text: its buffer is open, or ICU could not hold it)";

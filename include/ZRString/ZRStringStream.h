@@ -8,7 +8,7 @@
 
 /// @file
 /// Saves strings and arrays to a binary stream of the host, a Velmar::IStream, and restores them.
-/// Output to standard streams is in ZRStringOutput.h.
+/// Output to standard streams is in ZRStringOutput.h and ZRStringInterop.h.
 ///
 /// A **string record** is the string's length as a `ZRLong`, then each of its units as an
 /// `unsigned short`. An **array record** is the number of entries as a `ZRULong`, then the string

@@ -44,7 +44,7 @@
 
 /// Statuses of the functions of this header, beside those of ZRStringHandles.h.
 enum {
-  kZRStatusNoMemory = 13,  ///< Memory ran out, or ICU cannot hold the text; nothing was written.
+  kZRStatusNoMemory = 13,  ///< Memory ran out, or the text is too long; nothing was written.
   kZRStatusTextLost = 14   ///< ICU could not hold the edited text, which is lost; or nothing was
                            ///< appended, to an open buffer or a text already lost.
 };
@@ -347,7 +347,7 @@ ZR_UTF8_INLINE void ZRUtf8UnitsOf(ZRStringRef__* string, const ZRUtf8Unit** next
 
 /// Creates a mutable string from `size` bytes of UTF-8; #ZR_TO_ZERO_BYTE: up to the zero byte.
 /// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory:
-///         ICU has no memory for the text, or cannot hold one so long.
+///         ICU has no memory for the text, or the text has nearly 2^31 units.
 ZR_UTF8_INLINE ZRLong ZRMutableStringCreateFromUtf8(const char* text, size_t size,
                                                     ZRMutableStringRef__** out) {
   const unsigned char* next = (const unsigned char*)text;
@@ -388,7 +388,7 @@ ZR_UTF8_INLINE ZRLong ZRMutableStringCreateFromUtf8(const char* text, size_t siz
 
 /// Creates a string from `size` bytes of UTF-8; #ZR_TO_ZERO_BYTE: up to the zero byte.
 /// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory:
-///         ICU has no memory for the text, or cannot hold one so long.
+///         ICU has no memory for the text, or the text has nearly 2^31 units.
 ZR_UTF8_INLINE ZRLong ZRStringCreateFromUtf8(const char* text, size_t size, ZRStringRef__** out) {
   ZRMutableStringRef__* string;
   const ZRLong status = ZRMutableStringCreateFromUtf8(text, size, out ? &string : NULL);

@@ -8,6 +8,7 @@ from . import handles
 from ._strings import AnyString, BaseString, String, _indices, _integer, _operand, _wrong, borrowed
 
 _A = TypeVar("_A", bound="StringArray")
+_R = TypeVar("_R")
 
 
 class _OwnedArray(handles.ArrayRef):
@@ -134,7 +135,7 @@ class StringArray(MutableSequence[BaseString]):
         for string in strings:
             _push_back(self._handle, string._handle)
 
-    def _edit(self, edit: Callable[[], object]) -> object:
+    def _edit(self, edit: Callable[[], _R]) -> _R:
         """Edits the list and the array, which afterwards are the same even if this is interrupted.
         Returns what the edit removed: its destruction may run code of the program, which must find
         the lock free."""
@@ -184,7 +185,12 @@ class StringArray(MutableSequence[BaseString]):
     def __delitem__(self, index: Union[int, slice]) -> None:
         if isinstance(index, slice):
             cut = _integers(index)
-            return self._edit_all(lambda entries: entries.__delitem__(cut))
+            self._edit_all(lambda entries: entries.__delitem__(cut))
+        else:
+            self.pop(index)
+
+    def pop(self, index: int = -1) -> BaseString:
+        """Removes the entry at `index` and returns it."""
         number = _integer(index, "index")
 
         def erase() -> BaseString:
@@ -192,7 +198,7 @@ class StringArray(MutableSequence[BaseString]):
             _erase(self._handle, place)
             return self._strings.pop(place)
 
-        self._edit(erase)
+        return self._edit(erase)
 
     def insert(self, index: int, value: AnyString) -> None:
         """Inserts a string before the entry at `index`, which may lie outside, as for a list."""
@@ -218,6 +224,14 @@ class StringArray(MutableSequence[BaseString]):
         """Adds strings at the end."""
         strings = _all_kept(values, "values")
         self._edit_all(lambda entries: entries.extend(strings))
+
+    def __iadd__(self: _A, values: Iterable[AnyString]) -> _A:
+        self.extend(values)
+        return self
+
+    def remove(self, value: AnyString) -> None:
+        """Removes the first entry that equals `value`."""
+        del self[self.index(value)]
 
     def clear(self) -> None:
         """Removes all entries."""

@@ -408,7 +408,7 @@ class BaseString(_SequenceOfUnits):
 
         Unlike str, an empty `sub` is found nowhere, here and in all methods that search. A `sub`
         that begins with a trail surrogate or ends with a lead surrogate is not found where it
-        would split a pair.
+        would split a pair of the slice.
 
         >>> text = String("naïve cafés")
         >>> text.find("a"), text.find("a", -5), text.find("a", 2, 6), text.find("")
@@ -605,8 +605,8 @@ class MutableString(BaseString):
     """A string that can be edited. It shares the text of its source until the first edit.
 
     Edits return the string, so that they chain; the three that may have nothing to do return
-    whether they did something. The methods that str has leave the string as it is and return a new
-    one. Indices and slices can be assigned to and deleted.
+    whether they did something. The methods that str has leave the string as it is. Indices and
+    slices can be assigned to and deleted.
 
     >>> text = MutableString("cafe")
     >>> text.append(" noir").insert(0, "un ")

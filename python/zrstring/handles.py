@@ -1,8 +1,8 @@
 """The functions of ZRStringHandles.h, which documents each of them.
 
 Call a function as in C: it returns a status, 0 for success, and writes to the object behind
-ctypes.byref(). result() makes that object, returns what the function wrote, and raises an Error
-for any other status.
+ctypes.byref(). result() makes that object, returns what the function wrote, and raises an
+exception for any other status.
 
     >>> import ctypes
     >>> text, length = StringRef(), Long()
@@ -18,7 +18,7 @@ for any other status.
 Arguments of a wrong type raise TypeError, numbers that do not fit ValueError. What C cannot check
 is not checked here either: memory must be as large as its ranges say, and a handle must not be
 used after its object is destroyed. A destroy function sets the handle that it gets to null, and
-refuses the handles of the package's own objects, which are accepted as handles everywhere else.
+refuses Python objects that own what they stand for, which are accepted as handles everywhere else.
 """
 
 import ctypes
@@ -209,7 +209,8 @@ class Function:
 
     def result(self, *arguments: Any) -> Any:
         """Calls the function with all arguments but the one that it writes to, and returns what it
-        wrote, or None if it writes nothing. A status other than 0 raises an Error."""
+        wrote, or None if it has no such argument. A status other than 0 raises an Error or, if an
+        array was not created, a MemoryError."""
         written = []
         last = list(self.parameters.values())[-1]
         if isinstance(last, Out):

@@ -73,7 +73,7 @@ public static class Calls
         }
     }
 
-    // Each type of an out-parameter, and of units and bytes.
+    // The types of out-parameters other than addresses, and those of units and bytes.
     static void CallValid()
     {
         ZRStringCreateFromUniChars(units, 0, kZRToEnd, out text);
