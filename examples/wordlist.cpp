@@ -1,5 +1,6 @@
 // Sorts a word list in windows-1252, with one entry per line, in linguistic order, drops entries
-// that equal an earlier one without regard to case, saves the list to a file and looks up a word in it.
+// that equal an earlier one without regard to case, saves the list to a file and looks up a word in
+// it.
 
 #include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringMutator.h>

@@ -63,8 +63,8 @@ std::int32_t GrownCapacity(std::int64_t capacity, std::int64_t length, std::int6
   return static_cast<std::int32_t>(asked);
 }
 
-/// ICU's findAndReplace(), but ICU 72 moves the rest of the text at each match, which takes quadratic
-/// time if the lengths differ. The storage is what ICU would leave.
+/// ICU's findAndReplace(), which in ICU 72 takes quadratic time if the lengths differ: it moves the
+/// rest of the text at each match. The storage is what ICU would leave.
 void ReplaceAll(icu::UnicodeString& edited, Units range, Units oldText, Units newText) {
   const std::int32_t first = range.first && oldText.count > 0 ? IndexOf(range, oldText) : -1;
   if (first < 0)

@@ -266,8 +266,8 @@ inline std::wstring ToWide(const ZRString& string) {
 }
 #endif
 
-/// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does, but a text in
-/// ICU's error state as an empty one. With it, `std::map<ZRString, Value, ZRStringLess>` can be
+/// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does; only a text
+/// in ICU's error state counts as empty. With it, `std::map<ZRString, Value, ZRStringLess>` can be
 /// searched for a `std::u16string_view` without creating a string.
 /// @code
 /// const std::vector<ZRString> words = {u"deux"_zr, u"un"_zr};
@@ -479,7 +479,7 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 
 /// @}
 /// @name Short forms
-/// Most call the member that their comment names, with default arguments. A `text` is a ZRString, or
+/// Most call the member that their comment names, with default arguments. A `text` is a ZRString or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
 /// or in ICU's error state is empty. But one in the error state begins and ends only with a text in
