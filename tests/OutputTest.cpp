@@ -16,7 +16,8 @@ static Text Written(const Stream& stream) {
 }
 
 TEST(Output, HasTheWidthFillAndAdjustmentOfATerminatedText) {
-  for (const Text& text : {Text(), Text(u"abc"), Text(u"a\0b", 3), Text(u"\u20AC\U0001F600")})
+  for (const Text& text :
+       {Text(), Text(u"abc"), Text(u"a\0b", 3), Text(u"\u20AC\U0001F600"), Text(500, u'x')})
     for (int width = 0; width < 8; ++width)
       for (const bool left : {false, true})
         for (const int form : {0, 1, 2}) {
