@@ -10,7 +10,7 @@
 #include <string>
 
 // The interface's code unit, unsigned short, and ICU's, char16_t, are distinct types of the same
-// width. All conversions between pointers to them are here, with ICU's aliasing barrier.
+// width. The library's conversions between pointers to them are here, with ICU's aliasing barrier.
 
 inline const char16_t* ToIcu(const unsigned short* units) { return icu::ConstChar16Ptr(units); }
 

@@ -131,7 +131,7 @@ signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, con
 
 unsigned char ZRString::StartsWith(const ZRString& src, ZRLong srcStart,
                                    ZRLong srcLength) const noexcept {
-  // ICU 72's startsWith(), unlike its endsWith(), does not clamp the operand's range.
+  // ICU 72's startsWith(), unlike its endsWith(), clamps the operand's range too late.
   const icu::UnicodeString& srcText = TextOf(src.body_);
   const std::int32_t first = std::clamp<std::int32_t>(srcStart, 0, srcText.length());
   const std::int32_t count =

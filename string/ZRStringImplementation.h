@@ -10,7 +10,8 @@
 /// without exceptions.
 [[noreturn]] void ThrowBadAlloc();
 
-/// The body that strings share: one allocation that holds the count and the text.
+/// The body that strings share: one allocation that holds the count and ICU's string, to which a
+/// long text adds another.
 ///
 /// A body that is edited has one holder. A shared body changes in two cases only: through a
 /// writable buffer that was already open when the body was shared, and by GetTerminatedBuffer(),

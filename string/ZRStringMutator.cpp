@@ -6,7 +6,7 @@
 #include "string/Range.h"
 #include "string/ZRStringImplementation.h"
 
-// Every edit detaches first, then reads the operands' bodies, resolves lengths and makes one ICU
+// The edits here detach first, then read the operands' bodies, resolve lengths and make one ICU
 // call. So an operand that is this string is read from its new body. Growth.h keeps texts that
 // would become too long from ICU.
 

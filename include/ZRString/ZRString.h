@@ -94,7 +94,8 @@ class ZRStringHolderCount {
 /// **Errors.** A constructor that makes a body of its own, and CopyOnWrite(), deliver the whole
 /// text or throw `std::bad_alloc`: when the library or ICU runs out of memory, and for a text
 /// longer than ICU can hold, some 2^31 units. Queries do not throw. Collated comparison (option 3
-/// of ICompare()) allocates inside ICU; if that fails, the result may be wrong.
+/// of ICompare()) allocates inside ICU; if that fails, the result may be wrong, and the first such
+/// call may crash.
 ///
 /// **Threads.** There is no locking, and the number of holders is a plain integer: strings that
 /// share a body may be copied, assigned, edited and destroyed by only one thread at a time. Any

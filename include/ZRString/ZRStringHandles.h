@@ -33,7 +33,7 @@
 ///    error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
 ///    one thread at a time, except for reading. Copying and destroying are not reading.
-/// 9. **Calling convention.** #ZR_CALL: `__cdecl` on 32-bit Windows.
+/// 9. **Calling convention.** #ZR_CALL: `__cdecl` on Windows.
 
 #ifdef __cplusplus
 extern "C" {

@@ -47,7 +47,7 @@ enum ZRStringNormalizationMode : int {
 /// ICU can hold, this string's text is lost and in ICU's error state. Its length is then 0 and its
 /// buffer null. It compares equal only to a string in the same state (collated, to any empty one),
 /// and ignores edits until SetTo() gives it a new text, Truncate(0) or Remove(0, INT32_MAX) empties
-/// it, or another string is assigned.
+/// it, or another string is assigned. The first ToUpper() or ToLower() may crash instead.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
 /// edits. Do not use the string for anything else in between.
@@ -92,13 +92,14 @@ class ZR_API ZRStringMutator : public ZRString {
   /// Gives up this string's body and shares that of `other`. Copies no units.
   ZR_INLINE ZRStringMutator& operator=(const ZRStringMutator& other) noexcept;
 
-  /// Gives up this string's body and shares that of `other`. Copies no units.
+  /// Gives up this string's body and shares that of `other`. Copies no units. Truncate(0) empties a
+  /// string.
   ZR_INLINE ZRStringMutator& operator=(const ZRString& other) noexcept;
 
   /// Move assignment: exchanges the bodies, without touching them. `other` then holds this string's
   /// former body.
   ///
-  /// A template only because no library exports one: it is compiled into the program.
+  /// A template, so that it is compiled into the program and not exported.
   /// @since 1.1
   template <typename Other, typename = std::enable_if_t<std::is_same_v<Other, ZRStringMutator>>>
   ZRStringMutator& operator=(Other&& other) noexcept {
@@ -253,7 +254,8 @@ class ZR_API ZRStringMutator : public ZRString {
   void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
                       ZRLong dstStart) const override;
 
-  /// Replaces the whole text of `target`, which detaches, by a range of this string.
+  /// Replaces the whole text of `target`, which detaches, by a range of this string. As any edit, it
+  /// leaves a `target` in ICU's error state as it is.
   void Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const;
 
   /// Replaces the whole text of `target`, which detaches, by the units `start` through `end`.
@@ -285,8 +287,7 @@ class ZR_API ZRStringMutator : public ZRString {
   /// in ICU's error state, if ICU runs out of memory.
   ///
   /// Do not copy the string while the buffer is open. The copy would share the body and see what is
-  /// written; a second call here would detach from it and leave the copy with an open buffer that
-  /// nobody can close.
+  /// written; a second call here would detach from it and leave the copy with the open buffer.
   virtual unsigned short* GetBuffer(ZRLong minCapacity);
 
   /// Closes the buffer and sets the length to `newLength`, at most the capacity; -1: up to the
@@ -422,7 +423,7 @@ void operator+(Number left, const ZRString& right) = delete;  ///< A number is n
 /// @}
 
 /// @cond
-// Operators with two strings, or a string and a UTF-16 text, are in ZRStringInterop.h. Without that
+// The sum of two strings, and operators with a UTF-16 text, are in ZRStringInterop.h. Without that
 // header, a compiler finds these and names their operand.
 struct IncludeZRStringInteropForThisOperator {
   IncludeZRStringInteropForThisOperator(const ZRString&);

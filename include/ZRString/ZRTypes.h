@@ -5,7 +5,7 @@
 
 /// @file
 /// The integer types of the interface, names for its special values, the `UniStr255` record, and
-/// the macros that every declaration of the library carries. Plain C.
+/// the macros of exported declarations. Plain C.
 
 /// @def ZR_API
 /// Marks what the shared library exports. Programs that use the library see it as an import.
@@ -21,17 +21,16 @@
 
 /// @def ZR_CALL
 /// The calling convention of every exported function that is not a member of a class: `__cdecl` on
-/// 32-bit Windows, even where the compiler's default is another one, and the platform's only one
-/// elsewhere.
+/// Windows, even where the compiler's default is another one; the compiler's default elsewhere.
 /// @since 1.1
-#if defined(_WIN32) && !defined(_WIN64)
+#if defined(_WIN32)
 #define ZR_CALL __cdecl
 #else
 #define ZR_CALL
 #endif
 
 /// @typedef ZRLong
-/// Signed, 32 bits on every platform: every start, length, index, position, status and result.
+/// Signed, 32 bits on every platform: every start, length, index, position and status.
 /// `long` where that has 32 bits (Windows, 32-bit Unix), `int` elsewhere.
 
 /// @typedef ZRULong
