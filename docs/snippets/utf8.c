@@ -2,6 +2,7 @@
 
 #include <ZRString/ZRStringUtf8.h>
 #include <stdio.h>
+#include <string.h>
 
 int main(void) {
   //! [c]
@@ -14,14 +15,15 @@ int main(void) {
   if (status == 0)
     status =
         ZRMutableStringAppendUtf8(greeting,
-                                  "\xC3\x9F an alle", 10);
+                                  "\xC3\x9F!\xE2\x82\xAC",
+                                  6);
   if (status == 0)
     status =
         ZRStringExtractIntoUtf8((ZRStringRef__*)greeting,
                                 text, sizeof text, &size);
   if (status == 0)
-    printf("%s (%d of %d bytes)\n", text,
-           (int)sizeof text - 1, (int)size);
+    printf("%s (%d of %d bytes)\n", text, (int)strlen(text),
+           (int)size);
   //! [c]
   ZRMutableStringDestroy(greeting);
   return (int)status;

@@ -13,10 +13,11 @@
 /// 2. **Status.** A function tests its parameters in order, calls the member that its comment names
 ///    (a create function: a constructor) and returns 0. If a parameter is invalid, it returns 3 +
 ///    the position of the first invalid one, counted from 1, and does nothing else: no
-///    out-parameter is written. Functions on arrays may also return #kZRStatusIndexOutside.
-/// 3. **Units and ranges.** Starts, lengths, indices and positions count UTF-16 code units. A
-///    negative start is invalid. A length of -1 (#kZRToEnd) is valid only where the comment says
-///    so, and means to the end unless the comment says otherwise; any other negative length is
+///    out-parameter is written. Functions on arrays may also return #kZRStatusIndexOutside; they
+///    test an index last.
+/// 3. **Units and ranges.** Starts, lengths, indices and positions in a string count UTF-16 code
+///    units. A negative start is invalid. A length of -1 (#kZRToEnd) is valid only where the comment
+///    says so, and means to the end unless the comment says otherwise; any other negative length is
 ///    invalid. Ranges that reach past the end of a string are clamped to it.
 /// 4. **Results.** A comparison's `*result` becomes -1, 0 or 1: the range of `string` sorts before,
 ///    equal to or after that of `src`. A search's `*index` counts from the start of `string`, and
@@ -497,7 +498,7 @@ ZR_API ZRLong ZR_CALL ZRStringPtrArrayErase(ZRStringPtrArrayRef__* array, ZRLong
 /// @return 0; 4 array is null.
 ZR_API ZRLong ZR_CALL ZRStringPtrArrayEraseAll(ZRStringPtrArrayRef__* array);
 
-/// Destroys all strings in the array and removes all entries.
+/// Destroys all strings in the array, which must be in it once, and removes all entries.
 ///
 /// Calls ZRStringPtrArray::DeleteAll.
 /// @return 0; 4 array is null.

@@ -254,8 +254,8 @@ class ZR_API ZRStringMutator : public ZRString {
   void ExtractBetween(ZRLong start, ZRLong end, unsigned short* dst,
                       ZRLong dstStart) const override;
 
-  /// Replaces the whole text of `target`, which detaches, by a range of this string. As any edit, it
-  /// leaves a `target` in ICU's error state as it is.
+  /// Replaces the whole text of `target`, which detaches, by a range of this string. A `target` in
+  /// ICU's error state stays in it.
   void Extract(ZRLong start, ZRLong length, ZRStringMutator& target) const;
 
   /// Replaces the whole text of `target`, which detaches, by the units `start` through `end`.
