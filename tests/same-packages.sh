@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes the packages for Debian, Windows and Python, or those that are named, twice: here, and in a
 # copy of the sources, three days later. Compares them byte for byte. Installs the Debian packages
-# that are missing. Takes a minute; the first time, those for Windows take some more.
+# that are missing. Takes a minute; the first time, those for Windows take half an hour more.
 # usage: tests/same-packages.sh [debian|windows|python]...
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)

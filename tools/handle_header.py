@@ -1,7 +1,7 @@
 """Reads ZRStringHandles.h for the scripts that derive something from it or compare it.
 
-functions() raises ValueError for a header that they cannot read or whose statuses
-do not agree with its declarations.
+functions() raises ValueError for functions that it cannot read or whose statuses do not agree with
+their declarations.
 """
 
 import dataclasses

@@ -10,7 +10,8 @@ usage() {
 usage: tools/release-check.sh [-n] [PART...]
 
 Tries the PARTs that are named, or all of them, and goes on after a failure. Prints a table of what
-was tried on which system, and a verdict, which is the exit status, too. The output of a part is in build/release-check/PART.log. -n only prints the commands.
+was tried on which system, and a verdict, which is the exit status, too. The output of a part is in
+build/release-check/PART.log. -n only prints the commands.
   version       commit, changelog and what is written from the headers: all of this version
   tests         ./run-tests on this machine
   compatibility names, types and tests of 1.0.0

@@ -7,9 +7,9 @@
     ('GRÜSSE', 6, True, True, 5)
 
 String is an immutable string, MutableString one that can be edited, and StringArray an array of
-strings. What they can do, they do as str and list. Where they differ, the method says so; above
-all, indices and lengths count UTF-16 code units, of which a character above U+FFFF has two, and an empty text is
-found nowhere. Wherever a string is expected, a str will do.
+strings. What they can do, they do as str and list. Most methods say where they differ; above all,
+indices and lengths count UTF-16 code units, of which a character above U+FFFF has two, and an empty
+text is found nowhere. Wherever a string is expected, a str will do.
 
 An argument of a wrong type raises TypeError, a wrong value ValueError or IndexError, a text that is
 too long OverflowError. Use zrstring where text comes from C or C++ or goes there: within Python,

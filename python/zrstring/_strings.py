@@ -450,9 +450,9 @@ class BaseString(_SequenceOfUnits):
             raise ValueError("substring not found")
         return index
 
-    def _finds(self, sub: Any, start: Any, end: Any) -> Iterator[int]:
-        """The ends of the occurrences of `sub` in a slice, which do not overlap."""
-        text, pattern = self._stable(), _stable_operand(sub, "sub")
+    def _finds(self, pattern: Any, start: Any, end: Any) -> Iterator[int]:
+        """The ends of the occurrences of a stable operand in a slice, which do not overlap."""
+        text = self._stable()
         width = _length(pattern)
         first, length = _indices(start, end, _length(text))
         limit = first + length
@@ -467,7 +467,7 @@ class BaseString(_SequenceOfUnits):
         self, sub: AnyString, start: Optional[int] = None, end: Optional[int] = None
     ) -> int:
         """The number of occurrences of `sub` within the slice [start:end] that do not overlap."""
-        return sum(1 for _ in self._finds(sub, start, end))
+        return sum(1 for _ in self._finds(_stable_operand(sub, "sub"), start, end))
 
     def _fits(self, sub: object, start: Any, end: Any, at_end: bool, name: str) -> bool:
         text = self._stable()
@@ -513,7 +513,8 @@ class BaseString(_SequenceOfUnits):
             end = None
             if left >= 0:
                 end = 0
-                for end, _ in zip(copy._finds(old, None, None), range(left)):
+                found = copy._finds(_stable_operand(old, "old"), None, None)
+                for end, _ in zip(found, range(left)):
                     pass
             copy.find_and_replace(old, new, 0, end)
 
