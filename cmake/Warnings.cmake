@@ -1,4 +1,4 @@
-# The warnings for every target of the project.
+# The warnings for the targets of the project.
 option(ZRSTRING_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 
 function(zrstring_warnings target)

@@ -16,7 +16,9 @@ import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-FILE = re.compile(r"[\w.*/-]*[\w*-]\.(?:cpp|h|c|cs|go|rs|py|sh|md|txt|cmake|dot)|[\w-]+(?:/[\w-]+)*/")
+FILE = re.compile(
+    r"[\w.*/-]*[\w*-]\.(?:cpp|h|c|cs|go|rs|py|sh|md|txt|cmake|dot)|[\w-]+(?:/[\w-]+)*/"
+)
 TEST = re.compile(r"[A-Z]\w+\.[A-Z]\w+")
 
 

@@ -1,7 +1,7 @@
 """Reads ZRStringHandles.h for the scripts that derive something from it or compare it.
 
-functions() raises ValueError for functions that it cannot read or whose statuses do not agree with
-their declarations.
+functions() raises ValueError if it misses a function or if statuses do not agree with the
+declaration.
 """
 
 import dataclasses

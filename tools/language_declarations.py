@@ -81,7 +81,7 @@ FILES = {
     "go/zrstring/handles.go": (go_constant, go_function, "", ""),
     "csharp/Handles.cs": (csharp_constant, csharp_function, "", "    }\n}\n"),
 }
-MARK = "// Written by tools/write-derived.py from here on: edit ZRStringHandles.h and run that.\n"
+MARK = "// Written by tools/write-derived.py from here on: edit the C headers and run that.\n"
 
 
 def files(folder, functions, constants):

@@ -53,7 +53,8 @@ INTERFACE_CLASSES = [
     InterfaceClass(
         "ZRMutableStringDKInterfaceImpl",
         "Mutable strings",
-        "/// Mutable strings. Every member but ZRStringRefConst() has the name of its plain function.\n",
+        "/// Mutable strings. Every member but ZRStringRefConst() has the name of its plain "
+        "function.\n",
         more_declarations="""\
 
   /// The immutable handle of a mutable string, null for null. Returns no status, and has no plain

@@ -40,8 +40,8 @@ def entries_of(data, decoded):
 def without_repetitions(entries):
     """The entries without those that equal an earlier one without regard to case.
 
-    Such entries need not be neighbours in linguistic order: in many locales, "m2", "m²" and "M2" sort
-    like this."""
+    Such entries need not be neighbours in linguistic order: in many locales, "m2", "m²" and "M2"
+    sort like this."""
     order = sorted(range(len(entries)), key=lambda index: folded(entries[index]))
     groups = itertools.groupby(order, key=lambda index: folded(entries[index]))
     return [entries[index] for index in sorted(next(group) for _, group in groups)]

@@ -16,9 +16,9 @@
 ///    out-parameter is written. Functions on arrays may also return #kZRStatusIndexOutside; they
 ///    test an index last.
 /// 3. **Units and ranges.** Starts, lengths, indices and positions in a string count UTF-16 code
-///    units. A negative start is invalid. A length of -1 (#kZRToEnd) is valid only where the comment
-///    says so, and means to the end unless the comment says otherwise; any other negative length is
-///    invalid. Ranges that reach past the end of a string are clamped to it.
+///    units. A negative start is invalid. A length of -1 (#kZRToEnd) is valid only where the
+///    comment says so, and means to the end unless the comment says otherwise; any other negative
+///    length is invalid. Ranges that reach past the end of a string are clamped to it.
 /// 4. **Results.** A comparison's `*result` becomes -1, 0 or 1: the range of `string` sorts before,
 ///    equal to or after that of `src`. A search's `*index` counts from the start of `string`, and
 ///    becomes -1 (#kZRNotFound) if nothing is found.

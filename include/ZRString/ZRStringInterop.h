@@ -49,11 +49,11 @@
 /// **Open buffers and the error state.** A string with an open writable buffer, or in ICU's error
 /// state, reads as empty, except where a comment says otherwise.
 ///
-/// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted, joined,
-/// counted or looked for; so do a sum of so many units, and UTF-8 that a `std::string` cannot hold.
-/// UTF-8 may have any number of bytes. If memory runs out, ICU's included, or if ICU cannot hold
-/// what a function makes, it throws `std::bad_alloc`; FromUtf8() may, if the text has nearly 2^31
-/// units. The header does not compile without exceptions.
+/// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted,
+/// joined, counted or looked for; so do a sum of so many units, and UTF-8 that a `std::string`
+/// cannot hold. UTF-8 may have any number of bytes. If memory runs out, ICU's included, or if ICU
+/// cannot hold what a function makes, it throws `std::bad_alloc`; FromUtf8() may, if the text has
+/// nearly 2^31 units. The header does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -267,8 +267,8 @@ inline std::wstring ToWide(const ZRString& string) {
 #endif
 
 /// Orders strings and other UTF-16 texts by code units, as ZRString::operator<() does, but a
-/// text in ICU's error state counts as empty. With it, `std::map<ZRString, Value, ZRStringLess>` can be
-/// searched for a `std::u16string_view` without creating a string.
+/// text in ICU's error state counts as empty. With it, `std::map<ZRString, Value, ZRStringLess>`
+/// can be searched for a `std::u16string_view` without creating a string.
 /// @code
 /// const std::vector<ZRString> words = {u"deux"_zr, u"un"_zr};
 /// assert(ZRStringLess()(words[0], words[1]) && ZRStringLess()(words[1], u"une"));

@@ -1,8 +1,10 @@
 """StringArray."""
 
 import ctypes
+import sys
 import threading
-from typing import Any, Callable, Iterable, List, MutableSequence, Tuple, Type, TypeVar, Union, overload
+from typing import Any, Callable, Iterable, List, MutableSequence, Tuple, Type, TypeVar, Union
+from typing import overload
 
 from . import handles
 from ._strings import AnyString, BaseString, String, _indices, _integer, _operand, _wrong, borrowed
@@ -218,7 +220,7 @@ class StringArray(MutableSequence[BaseString]):
 
     def append(self, value: AnyString) -> None:
         """Adds a string at the end."""
-        self.insert(len(self._strings), value)
+        self.insert(sys.maxsize, value)
 
     def extend(self, values: Iterable[AnyString]) -> None:
         """Adds strings at the end."""

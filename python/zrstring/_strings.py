@@ -788,11 +788,11 @@ class MutableString(BaseString):
         return True
 
     def pad_leading(self, width: int, unit: AnyString = " ") -> bool:
-        """Puts `unit` before the text until it has `width` units; returns whether it was shorter."""
+        """Puts `unit` before the text up to `width` units. Returns whether it was shorter."""
         return self._pad(_pad_leading, width, unit)
 
     def pad_trailing(self, width: int, unit: AnyString = " ") -> bool:
-        """Appends `unit` until the text has `width` units. Returns whether it was shorter."""
+        """Appends `unit` up to `width` units. Returns whether the text was shorter."""
         return self._pad(_pad_trailing, width, unit)
 
     def truncate(self, length: int) -> bool:

@@ -29,8 +29,8 @@ diff <(sed "s/GCC/$gcc/" "$tests/files.txt") \
     -printf '%P\n' | LC_ALL=C sort) ||
   die "the files of the package ('<' is missing, '>' is too much)"
 [ "$(find "$package" -type f -printf '%T@\n' | sort -u | wc -l)" = 1 ] || die "not one date"
-! "$arch-w64-mingw32-objdump" -p "$bin"/{icu*,ZRString}.dll | grep -P 'Time/Date stamp\s+(?!0$)\S' ||
-  die "a DLL has the time of its linking"
+! "$arch-w64-mingw32-objdump" -p "$bin"/{icu*,ZRString}.dll |
+  grep -P 'Time/Date stamp\s+(?!0$)\S' || die "a DLL has the time of its linking"
 while read -r text; do
   [ -s "$package/licenses/$text.txt" ] || die "$text.txt is missing"
 done < <(grep -oh 'common-licenses/[-.A-Za-z0-9]*[A-Za-z0-9]' "$package"/licenses/*.txt)

@@ -71,7 +71,8 @@ install(FILES ${winpthreads_notice} DESTINATION licenses RENAME winpthreads.txt 
 # The texts that these two refer to.
 foreach(notice ${gcc_notice} ${winpthreads_notice})
   file(STRINGS ${notice} lines REGEX /usr/share/common-licenses/)
-  string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z]+(-[0-9]+([.][0-9]+)?)?" texts "${lines}")
+  string(REGEX MATCHALL "/usr/share/common-licenses/[A-Za-z]+(-[0-9]+([.][0-9]+)?)?" texts
+    "${lines}")
   foreach(text IN LISTS texts)
     cmake_path(GET text FILENAME name)
     file(REAL_PATH ${text} text)

@@ -28,7 +28,7 @@ namespace ZRString
     }
 
     /// <summary>
-    /// The functions and constants of ZRStringHandles.h, which says what each does and returns.
+    /// The functions and constants of ZRStringHandles.h and ZRTypes.h, which say what each means.
     /// </summary>
     public static class Handles
     {
@@ -36,7 +36,7 @@ namespace ZRString
         private const CallingConvention Cdecl = CallingConvention.Cdecl;
         private const CharSet Utf16 = CharSet.Unicode; // a char is a unit
 
-        // Written by tools/write-derived.py from here on: edit ZRStringHandles.h and run that.
+        // Written by tools/write-derived.py from here on: edit the C headers and run that.
         public const int kZRToEnd = -1;
         public const int kZRNotFound = -1;
         public const char kZRNoUnit = (char)65535;

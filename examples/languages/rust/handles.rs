@@ -1,4 +1,4 @@
-//! The functions and constants of ZRStringHandles.h, which says what each does and returns.
+//! The functions and constants of ZRStringHandles.h and ZRTypes.h, which say what each means.
 
 #![allow(dead_code, non_camel_case_types, non_snake_case, non_upper_case_globals)]
 
@@ -25,7 +25,7 @@ pub struct ZRStringPtrArrayRef__ {
     _opaque: [u8; 0],
 }
 
-// Written by tools/write-derived.py from here on: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py from here on: edit the C headers and run that.
 pub const kZRToEnd: ZRLong = -1;
 pub const kZRNotFound: ZRLong = -1;
 pub const kZRNoUnit: u16 = 65535;

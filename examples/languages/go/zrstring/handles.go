@@ -1,5 +1,5 @@
-// Package zrstring has the functions and constants of ZRStringHandles.h, which says what each does
-// and returns. The names of the constants begin with ZR, not with kZR.
+// Package zrstring has the functions and constants of ZRStringHandles.h and ZRTypes.h, which say
+// what each means. The names of the constants begin with ZR, not with kZR.
 package zrstring
 
 // #cgo pkg-config: zrstring
@@ -17,7 +17,7 @@ type ZRMutableStringRef = *C.ZRMutableStringRef__
 // ZRStringPtrArrayRef is the handle of an array of strings.
 type ZRStringPtrArrayRef = *C.ZRStringPtrArrayRef__
 
-// Written by tools/write-derived.py from here on: edit ZRStringHandles.h and run that.
+// Written by tools/write-derived.py from here on: edit the C headers and run that.
 const ZRToEnd int32 = -1
 const ZRNotFound int32 = -1
 const ZRNoUnit uint16 = 65535
