@@ -1,5 +1,6 @@
 // Compares random operations, on strings that share bodies and on an array, with a model.
-// --gtest_shuffle --gtest_repeat=100 makes more of them, each time with another seed.
+// --gtest_shuffle --gtest_repeat=100 makes more of them, each time with another seed, and
+// --gtest_shuffle --gtest_random_seed=SEED repeats those of a seed other than 0.
 #include <gtest/gtest.h>
 
 #include "World.h"

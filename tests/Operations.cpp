@@ -212,7 +212,7 @@ bool WrittenReadAndDeleted(ZRStringPtrArray& array) {
   const bool passed = WrittenAndRead(array, read) &&
                       std::equal(read.Begin(), read.End(), array.Begin(), array.End(), same);
   read.PushBack(nullptr);  // DeleteAll() skips it
-  const bool holdsNull = !read[-1];
+  const bool holdsNull = !read.End()[-1];
   return holdsNull && Called(ZRStringPtrArrayDeleteAll, static_cast<ZRStringPtrArray*>(&read)) &&
          read.Empty() && passed;
 }
