@@ -257,7 +257,7 @@ TEST(Interop, Characters) {
       forward += c;
     const CodePoints characters(text);
     const std::u32string backward(characters.rbegin(), characters.rend());
-    EXPECT_EQ(forward, std::u32string(backward.rbegin(), backward.rend()));
+    EXPECT_EQ(forward, std::u32string(backward.rbegin(), backward.rend())) << "CodePoints, --";
     ZRLong index = 0;
     for (auto c = characters.begin(); c != characters.end();
          index = expected.moveIndex32(index, 1)) {
