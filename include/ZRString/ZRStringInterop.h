@@ -50,10 +50,11 @@
 /// state, reads as empty, except where a comment says otherwise.
 ///
 /// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted,
-/// joined, counted or looked for; so do a sum of so many units, and UTF-8 that a `std::string`
-/// cannot hold. UTF-8 may have any number of bytes. If memory runs out, ICU's included, or if ICU
-/// cannot hold what a function makes, it throws `std::bad_alloc`; FromUtf8() may, if the text has
-/// nearly 2^31 units. The header does not compile without exceptions.
+/// joined, counted or looked for; so do a sum of so many units, unless a mutator begins it and a
+/// string ends it, and UTF-8 that a `std::string` cannot hold. UTF-8 may have any number of bytes.
+/// If memory runs out, ICU's included, or if ICU cannot hold what a function makes, it throws
+/// `std::bad_alloc`; FromUtf8() may, if the text has nearly 2^31 units. The header does not compile
+/// without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units

@@ -214,7 +214,12 @@ class BaseString(_SequenceOfUnits):
     def _changed(self: _S, edit: Callable[["MutableString"], object]) -> _S:
         copy = MutableString(self)
         edit(copy)
-        return type(self)._made(copy._handle)
+        return type(self)._owning(copy._handle)
+
+    @classmethod
+    def _owning(cls: Type[_S], handle: Any) -> _S:
+        """A string of a mutable string's handle that no other object has."""
+        return cls._made(handle)
 
     @property
     def address(self) -> int:
@@ -316,7 +321,7 @@ class BaseString(_SequenceOfUnits):
 
     def _sum(self: _S, first: Any, second: Any) -> _S:
         _reserve(_length(first) + _length(second))
-        return type(self)._made(_add(first, second))
+        return type(self)._owning(_add(first, second))
 
     def __add__(self: _S, other: AnyString) -> _S:
         if not isinstance(other, (str, BaseString)):
@@ -587,6 +592,11 @@ class String(BaseString):
 
     def _stable(self) -> Any:
         return self._handle
+
+    @classmethod
+    def _owning(cls: Type[_S], handle: Any) -> _S:
+        handle.__class__ = _OwnedString  # so that no function takes it for a mutable one
+        return cls._made(handle)
 
     @classmethod
     def _holding(cls, handle: Any) -> Any:

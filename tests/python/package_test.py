@@ -188,6 +188,8 @@ class Package(unittest.TestCase):
         self.assertEqual((str(String(units)), list(MutableString(units))), (units, list(units)))
 
     def test_functions_name_the_parameter_of_a_wrong_type(self):
+        for text in (String("ab").upper(), String("a") + "b", String("ab")[:1], String("a") * 2):
+            self.assertRaises(TypeError, handles.ZRMutableStringTrim, text)
         numbers = (handles.Long, handles.ULong, handles.Unit)
         for function in handles.FUNCTIONS.values():
             valid = [0 if kind in numbers else None for kind in function.parameters.values()]
