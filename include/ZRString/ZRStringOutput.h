@@ -59,8 +59,8 @@ operator<<(std::basic_ostringstream<unsigned short>& stream, const ZRString& str
 /// an empty text.
 ///
 /// Manipulators return the stream as a `std::basic_ostream`, whose own operator widens each byte:
-/// `o << "\x80"` inserts U+20AC, but `o << std::setw(4) << "\x80"` inserts U+0080. So does the
-/// first in a namespace with an operator<< of its own, which hides this one.
+/// `o << "\x80"` inserts U+20AC, but `o << std::setw(4) << "\x80"` inserts U+0080. In a namespace
+/// that has an operator<< of its own, which hides this one, both insert U+0080.
 /// @return `stream`, as a string stream
 ZR_API std::basic_ostringstream<unsigned short>& ZR_CALL
 operator<<(std::basic_ostringstream<unsigned short>& stream, const char* text);
