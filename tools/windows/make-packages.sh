@@ -9,8 +9,8 @@ usage() {
 usage: tools/windows/make-packages.sh [i686|x86_64 [CMAKE-ARGUMENT...]]
 
 Makes build/windows-ARCH/zrstring-VERSION-win32.zip (i686) and -win64.zip (x86_64), or the one whose
-ARCH is named. Installs the Debian packages that are missing. Builds ICU first, which takes some
-minutes; it is kept in $ZRSTRING_CACHE (~/.cache/zrstring-windows) for the next time.
+ARCH is named. Installs the Debian packages that are missing. Builds ICU first, which may take half
+an hour; it is kept in $ZRSTRING_CACHE (~/.cache/zrstring-windows) for the next time.
 USAGE
 }
 
