@@ -70,9 +70,9 @@ class ZRStringHolderCount {
 /// **Sharing.** The units are in a reference-counted body. Copies, assignments, strings created
 /// from a handle, and strings created from a range of another string with a start of 0 and a length
 /// of -1 or exactly that string's share the body of their source, which takes an addition and no
-/// allocation. The last holder destroys the body. Only
-/// ZRStringMutator changes text, and it first gets a body of its own. At most 2147483647 strings
-/// may share a body; one more is undefined behaviour.
+/// allocation. The last holder destroys the body. Only ZRStringMutator changes text, and it first
+/// gets a body of its own. At most 2147483647 strings may share a body; one more is undefined
+/// behaviour.
 ///
 /// **Units and ranges.** Starts, lengths and indices count UTF-16 code units. A range is a start
 /// and a length, clamped to the text it refers to: a start below 0 counts as 0, a start past the

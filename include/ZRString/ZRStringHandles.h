@@ -33,7 +33,7 @@
 ///    edit that ICU cannot complete otherwise loses the text, whose length is then 0 (see ICU's
 ///    error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
-///    one thread at a time, except for reading. Copying and destroying are not reading.
+///    one thread at a time, except for reading; copying and destroying are not reading.
 /// 9. **Calling convention.** #ZR_CALL: `__cdecl` on Windows.
 
 #ifdef __cplusplus
@@ -377,8 +377,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringToLower(ZRMutableStringRef__* string);
 /// capacity, of which a string that shared its text may lose some). `*buffer` becomes null if the
 /// buffer cannot be opened.
 ///
-/// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, ask
-/// for the capacity, but do nothing else with the string, not even copy it: a copy would share what
+/// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, do
+/// nothing with the string but ask for its capacity; do not even copy it: a copy would share what
 /// is written.
 /// @return 0; 4 string is null; 5 minCapacity is below -1; 6 buffer is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringGetBufferWithCapacity(ZRMutableStringRef__* string,
@@ -498,7 +498,7 @@ ZR_API ZRLong ZR_CALL ZRStringPtrArrayErase(ZRStringPtrArrayRef__* array, ZRLong
 /// @return 0; 4 array is null.
 ZR_API ZRLong ZR_CALL ZRStringPtrArrayEraseAll(ZRStringPtrArrayRef__* array);
 
-/// Destroys all strings in the array, which must be in it once, and removes all entries.
+/// Destroys all strings in the array and removes all entries. No string may be in it twice.
 ///
 /// Calls ZRStringPtrArray::DeleteAll.
 /// @return 0; 4 array is null.

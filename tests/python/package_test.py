@@ -171,6 +171,9 @@ class Package(unittest.TestCase):
             self.assertEqual(String("aaa").count(sub), 1)
 
     def test_array_is_edited_by_what_its_edits_destroy_and_survives_interruptions(self):
+        index = unittest.mock.MagicMock(**{"__index__.side_effect": [0, 1]})
+        array = StringArray("ab")
+        self.assertEqual((array.pop(index), array), ("a", ["b"]))  # takes the index only once
         for edit in ("del a[0]", "a.clear()", "a[0] = 'x'", "a[:] = 'xy'", "a.remove('one')"):
             array = StringArray(["one", "two"])
             weakref.finalize(array[0], array.append, "gone")
