@@ -48,8 +48,8 @@ struct Units {
 
 /// A raw operand as the arguments of an ICU call.
 ///
-/// If the length is negative, the start is added to the pointer here: ICU 72's compare() and
-/// caseCompare() would measure the text from twice the start.
+/// If the length is negative, the start is added to the pointer here: ICU 72's compare() would
+/// measure the text from twice the start.
 struct RawOperand {
   RawOperand(const unsigned short* text, ZRLong textStart, ZRLong textLength)
       : units(ToIcu(text)), start(textStart), length(textLength) {

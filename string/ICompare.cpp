@@ -1,6 +1,7 @@
 #include <ZRString/ZRString.h>
 #include <unicode/stringoptions.h>
 #include <unicode/ustring.h>
+#include <unicode/utf16.h>
 
 #include <cstdint>
 
@@ -16,22 +17,101 @@ std::uint32_t IcuOptions(ZRULong options) {
   return options == kZRCompareIgnoreCaseCodePointOrder ? U_COMPARE_CODE_POINT_ORDER : options;
 }
 
-/// What follows the equal beginnings of two texts, compared by ICU. Out of line, as the caller
-/// decides most texts.
-[[gnu::noinline]] signed char CaseCompareRest(Units own, Units other, std::uint32_t options) {
+/// Whether some lead surrogate is followed by a unit that is no trail surrogate.
+[[gnu::cold]] bool HasUnpairedLead(Units text) {
+  for (std::int32_t i = 0; i + 1 < text.count; ++i)
+    if (IsLead(text.first[i]) && !IsTrail(text.first[i + 1]))
+      return true;
+  return false;
+}
+
+/// A text without regard to case, unit by unit, or by code points if the options say so.
+class FoldedText {
+ public:
+  FoldedText(Units text, std::uint32_t options) : text_(text), options_(options) {}
+
+  /// The next unit or code point, or -1 at the end.
+  [[gnu::cold]] std::int32_t Next() {
+    if (next_ == length_ && !FoldNext())
+      return -1;
+    const char16_t unit = folded_[next_++];
+    if (unit == 0 && (options_ & kStopsAtZero) != 0)
+      return -1;
+    return (options_ & U_COMPARE_CODE_POINT_ORDER) != 0 && IsLead(unit) && next_ < length_
+               ? U16_GET_SUPPLEMENTARY(unit, folded_[next_++])
+               : unit;
+  }
+
+ private:
+  [[gnu::cold]] bool FoldNext() {
+    if (place_ == text_.count)
+      return false;
+    const std::int32_t start = place_;
+    U16_FWD_1(text_.first, place_, text_.count);
+    UErrorCode status = U_ZERO_ERROR;
+    length_ = u_strFoldCase(folded_, kLongest, text_.first + start, place_ - start,
+                            options_ & kFoldingBits, &status);
+    next_ = 0;
+    return true;
+  }
+
+  static constexpr std::int32_t kLongest = 3;  // no code point folds to more units
+  // Option bits of ICU: which folding, and whether a zero unit ends the texts.
+  static constexpr std::uint32_t kFoldingBits = 0x7;
+  static constexpr std::uint32_t kStopsAtZero = 0x1000;
+
+  const Units text_;
+  const std::uint32_t options_;
+  std::int32_t place_ = 0;
+  char16_t folded_[kLongest];
+  std::int32_t next_ = 0;
+  std::int32_t length_ = 0;
+};
+
+/// Compares without u_strCaseCompare(), and slowly.
+[[gnu::cold, gnu::noinline]] signed char CompareFolded(Units own, Units other,
+                                                       std::uint32_t options) {
+  FoldedText left(own, options), right(other, options);
+  std::int32_t ours, theirs;
+  do {
+    ours = left.Next();
+    theirs = right.Next();
+  } while (ours == theirs && ours >= 0);
+  return Order(ours, theirs);
+}
+
+signed char IcuCaseCompare(Units left, Units right, std::uint32_t options) {
   UErrorCode status = U_ZERO_ERROR;
-  return Order(u_strCaseCompare(own.first, own.count, other.first, other.count, options, &status),
+  return Order(u_strCaseCompare(left.first, left.count, right.first, right.count, options, &status),
                0);
 }
 
+/// What follows the equal beginnings of two texts, compared by ICU. Out of line, as the caller
+/// decides most texts.
+///
+/// Where `own` has an unpaired lead surrogate and a letter that folds, and `other` a pair with the
+/// same lead that folds, ICU 72 reads the unit before an array on its stack: it finds a difference,
+/// but the order depends on what is there. With the operands exchanged it is right there. A long
+/// text is compared again in that way, as it may end long after the difference.
+[[gnu::cold, gnu::noinline]] signed char CaseCompareRest(Units own, Units other,
+                                                         std::uint32_t options) {
+  constexpr std::int32_t kShort = 64;
+  const signed char order = IcuCaseCompare(own, other, options);
+  if (order == 0 || (own.count <= kShort ? AreBelow(own, 0xD800) || !HasUnpairedLead(own)
+                                         : IcuCaseCompare(other, own, options) == -order))
+    return order;
+  return CompareFolded(own, other, options);
+}
+
 /// Compares without regard to case, with ICU only from the first unit that is neither equal nor
-/// ASCII. Does not decide with options that fold in another way, nor null texts.
+/// ASCII. Leaves null texts to ICU.
 signed char IgnoringCase(Units own, Units other, std::uint32_t options) {
-  if (options != U_FOLD_CASE_DEFAULT && options != U_COMPARE_CODE_POINT_ORDER)
+  if (!own.first || !other.first)
     return kUndecided;
-  const signed char order = IgnoringAsciiCase(own, other);
-  return order == kUndecided && own.first && other.first ? CaseCompareRest(own, other, options)
-                                                         : order;
+  if (options == U_FOLD_CASE_DEFAULT || options == U_COMPARE_CODE_POINT_ORDER)
+    if (const signed char order = IgnoringAsciiCase(own, other); order != kUndecided)
+      return order;
+  return CaseCompareRest(own, other, options);
 }
 
 constexpr bool IsWhole(ZRLong start, ZRLong length) { return start == 0 && length == kZRToEnd; }
@@ -76,12 +156,12 @@ signed char ZRString::ICompare(ZRLong start, ZRLong length, const unsigned short
                                ZRLong srcStart, ZRLong srcLength, ZRULong options) const {
   if (options == kZRCompareCollated)
     return CollateRawRange(TextOf(body_), start, length, src, srcStart, srcLength);
-  const RawOperand raw(src, srcStart, srcLength);
+  const Units raw = MeasuredUnits(src, srcStart, srcLength);
   const signed char order =
-      IgnoringCase(UnitsOf(TextOf(body_), start, length), raw.Known(), IcuOptions(options));
+      IgnoringCase(UnitsOf(TextOf(body_), start, length), raw, IcuOptions(options));
   if (order != kUndecided)
     return order;
-  return TextOf(body_).caseCompare(start, Resolved(length), raw.units, raw.start, raw.length,
+  return TextOf(body_).caseCompare(start, Resolved(length), raw.first, 0, raw.count,
                                    IcuOptions(options));
 }
 
