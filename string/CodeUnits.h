@@ -46,31 +46,6 @@ struct Units {
   std::int32_t count;
 };
 
-/// A raw operand as the arguments of an ICU call.
-///
-/// If the length is negative, the start is added to the pointer here: ICU 72's compare() would
-/// measure the text from twice the start.
-struct RawOperand {
-  RawOperand(const unsigned short* text, ZRLong textStart, ZRLong textLength)
-      : units(ToIcu(text)), start(textStart), length(textLength) {
-    if (length < 0) {
-      length = RawLength(length);
-      if (units)
-        units += start;
-      start = 0;
-    }
-  }
-
-  /// The operand's units if its length is known, otherwise null.
-  Units Known() const {
-    return units && length >= 0 ? Units{units + start, length} : Units{nullptr, 0};
-  }
-
-  const char16_t* units;
-  std::int32_t start;
-  std::int32_t length;
-};
-
 /// A raw operand with its start added to the pointer; empty for a null text.
 ///
 /// For ICU 72's startsWith(), which measures a text from its beginning whatever the start, and for

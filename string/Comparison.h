@@ -10,7 +10,7 @@
 
 // Comparisons that answer before ICU, where they can: ICU 72 compares unit by unit, these compare
 // blocks. What they decide, they decide as ICU does. Null units are left to ICU: of an open buffer,
-// of a text in the error state, or of a raw operand that is not there or whose length is not known.
+// of a text in the error state, or of a null operand.
 
 /// The result of a comparison that only ICU decides.
 constexpr signed char kUndecided = 2;

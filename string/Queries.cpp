@@ -78,11 +78,11 @@ signed char ZRString::Compare(ZRLong start, ZRLong length, const ZRString& src, 
 
 signed char ZRString::Compare(ZRLong start, ZRLong length, const unsigned short* src,
                               ZRLong srcStart, ZRLong srcLength) const noexcept {
-  const RawOperand raw(src, srcStart, srcLength);
-  const signed char order = InUnitOrder(UnitsOf(TextOf(body_), start, length), raw.Known());
+  const Units raw = MeasuredUnits(src, srcStart, srcLength);
+  const signed char order = InUnitOrder(UnitsOf(TextOf(body_), start, length), raw);
   if (order != kUndecided)
     return order;
-  return TextOf(body_).compare(start, Resolved(length), raw.units, raw.start, raw.length);
+  return TextOf(body_).compare(start, Resolved(length), raw.first, 0, raw.count);
 }
 
 signed char ZRString::CompareBetween(ZRLong start, ZRLong end, const ZRString& src, ZRLong srcStart,
@@ -109,12 +109,11 @@ signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const Z
 
 signed char ZRString::CompareCodePointOrder(ZRLong start, ZRLong length, const unsigned short* src,
                                             ZRLong srcStart, ZRLong srcLength) const noexcept {
-  const RawOperand raw(src, srcStart, srcLength);
-  const signed char order = InCodePointOrder(UnitsOf(TextOf(body_), start, length), raw.Known());
+  const Units raw = MeasuredUnits(src, srcStart, srcLength);
+  const signed char order = InCodePointOrder(UnitsOf(TextOf(body_), start, length), raw);
   if (order != kUndecided)
     return order;
-  return TextOf(body_).compareCodePointOrder(start, Resolved(length), raw.units, raw.start,
-                                             raw.length);
+  return TextOf(body_).compareCodePointOrder(start, Resolved(length), raw.first, 0, raw.count);
 }
 
 signed char ZRString::CompareCodePointOrderBetween(ZRLong start, ZRLong end, const ZRString& src,
