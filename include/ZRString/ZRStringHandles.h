@@ -28,10 +28,9 @@
 ///    other strings.
 /// 7. **Exceptions.** Exceptions, `std::bad_alloc` included, propagate to the caller, and no
 ///    out-parameter is written; only the functions that create arrays return a status instead. A
-///    caller that cannot catch C++ exceptions cannot survive running out of memory. A create
-///    function, and an edit that first has to copy a text, also throw if ICU runs out of memory. An
-///    edit that ICU cannot complete otherwise loses the text, whose length is then 0 (see ICU's
-///    error state in ZRStringMutator).
+///    create function, and an edit that first has to copy a text, also throw if ICU runs out of
+///    memory. An edit that ICU cannot complete otherwise loses the text, whose length is then 0
+///    (see ICU's error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
 ///    one thread at a time, except for reading; copying and destroying are not reading.
 /// 9. **Calling convention.** #ZR_CALL: `__cdecl` on Windows.

@@ -50,10 +50,9 @@ enum ZRStringNormalizationMode : int {
 /// it, or another string is assigned. The first ToUpper() or ToLower() may crash instead.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores
-/// edits. Do not use the string for anything else in between.
+/// edits. In between, only ask for the string's capacity.
 ///
-/// **Threads.** As for ZRString: a mutator and the strings that share its body may be used by only
-/// one thread at a time.
+/// **Threads.** As for ZRString.
 class ZR_API ZRStringMutator : public ZRString {
  public:
   /// @name Creation and assignment
@@ -284,7 +283,7 @@ class ZR_API ZRStringMutator : public ZRString {
   ///
   /// The pointer is valid until ReleaseBuffer(). It is null, with the text unchanged, if a buffer
   /// is already open, in ICU's error state or if `minCapacity` is below -1, and null, with the text
-  /// in ICU's error state, if ICU runs out of memory.
+  /// in ICU's error state, if ICU cannot make the room.
   ///
   /// Do not copy the string while the buffer is open. The copy would share the body and see what is
   /// written; a second call here would detach from it and leave the copy with the open buffer.
@@ -329,8 +328,7 @@ ZR_API ZRStringMutator& ZR_CALL GetZRStringMutatorFromRef(ZRMutableStringRef__* 
 
 /// @name Characters and numbers as operands
 /// Without these operators, a `char32_t`, `char` or floating operand would be converted to a unit:
-/// a character above U+FFFF would lose its upper bits. They take exactly these types. Integers,
-/// such as `unit + 1`, are still units.
+/// a character above U+FFFF would lose its upper bits. They take exactly these types.
 /// @code
 /// ZRStringMutator text;
 /// text += U'\U0001F600';  // two units

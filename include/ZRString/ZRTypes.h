@@ -30,11 +30,10 @@
 #endif
 
 /// @typedef ZRLong
-/// Signed, 32 bits on every platform: every start, length, index, position and status.
-/// `long` where that has 32 bits (Windows, 32-bit Unix), `int` elsewhere.
+/// Signed, 32 bits on every platform: `long` where that has 32 bits (Windows, 32-bit Unix), `int` elsewhere.
 
 /// @typedef ZRULong
-/// Unsigned, 32 bits on every platform: counts of array entries and comparison options.
+/// Unsigned, 32 bits on every platform.
 #if LONG_MAX == 2147483647L
 typedef long ZRLong;
 typedef unsigned long ZRULong;
