@@ -50,11 +50,10 @@
 /// state, reads as empty, except where a comment says otherwise.
 ///
 /// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted,
-/// joined, counted or looked for; so do a sum of so many units, unless a mutator begins it and a
-/// string ends it, and UTF-8 that a `std::string` cannot hold. UTF-8 may have any number of bytes.
-/// If memory runs out, ICU's included, or if ICU cannot hold what a function makes, it throws
-/// `std::bad_alloc`; FromUtf8() may, if the text has nearly 2^31 units. The header does not compile
-/// without exceptions.
+/// counted or looked for; so do a sum of so many units, and UTF-8 that a `std::string` cannot hold.
+/// UTF-8 may have any number of bytes. If memory runs out, or if ICU cannot hold what a function
+/// makes, it throws `std::bad_alloc`; but the first UpperCase() or LowerCase() may crash instead.
+/// The header does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -482,10 +481,10 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// @name Short forms
 /// Most call the member that their comment names, with default arguments. A `text` is a ZRString or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
-/// for may also be a single unit, a `char16_t` or `unsigned short`. A text with an open buffer
-/// or in ICU's error state is empty. But one in the error state begins and ends only with a text in
-/// the same state; no other text, not even an empty one, begins or ends with it; and
-/// ReplacedAll() with it as the new part changes nothing.
+/// for, a new part and a separator may also be single units, `char16_t` or `unsigned short`. A text
+/// with an open buffer or in ICU's error state is empty. But one in the error state begins and ends
+/// only with a text in the same state; no other text, not even an empty one, begins or ends with
+/// it; and ReplacedAll() with it as the new part changes nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));

@@ -346,8 +346,7 @@ ZR_UTF8_INLINE void ZRUtf8UnitsOf(ZRStringRef__* string, const ZRUtf8Unit** next
 /// @endcond
 
 /// Creates a mutable string from `size` bytes of UTF-8; #ZR_TO_ZERO_BYTE: up to the zero byte.
-/// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory:
-///         ICU has no memory for the text, or the text has nearly 2^31 units.
+/// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory.
 ZR_UTF8_INLINE ZRLong ZRMutableStringCreateFromUtf8(const char* text, size_t size,
                                                     ZRMutableStringRef__** out) {
   const unsigned char* next = (const unsigned char*)text;
@@ -387,8 +386,7 @@ ZR_UTF8_INLINE ZRLong ZRMutableStringCreateFromUtf8(const char* text, size_t siz
 }
 
 /// Creates a string from `size` bytes of UTF-8; #ZR_TO_ZERO_BYTE: up to the zero byte.
-/// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory:
-///         ICU has no memory for the text, or the text has nearly 2^31 units.
+/// @return 0; 4 text is null; 5 the text has 2^31 units or more; 6 out is null; #kZRStatusNoMemory.
 ZR_UTF8_INLINE ZRLong ZRStringCreateFromUtf8(const char* text, size_t size, ZRStringRef__** out) {
   ZRMutableStringRef__* string;
   const ZRLong status = ZRMutableStringCreateFromUtf8(text, size, out ? &string : NULL);

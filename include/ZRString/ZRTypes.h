@@ -30,7 +30,8 @@
 #endif
 
 /// @typedef ZRLong
-/// Signed, 32 bits on every platform: `long` where that has 32 bits (Windows, 32-bit Unix), `int` elsewhere.
+/// Signed, 32 bits on every platform: `long` where that has 32 bits (Windows, 32-bit Unix), `int`
+/// elsewhere.
 
 /// @typedef ZRULong
 /// Unsigned, 32 bits on every platform.
