@@ -48,9 +48,10 @@ def _integers(cut: slice) -> slice:
 
 
 def _reserve(entries: int) -> None:
-    """As for strings: the library could not report that it has no memory for so many entries."""
+    """As for strings: the library could not report that it has no memory for so many entries. While
+    it grows, an array has both its old storage and the new one of up to twice the size."""
     if entries > 2**12:
-        bytearray(2 * ctypes.sizeof(ctypes.c_void_p) * entries)
+        bytearray(3 * ctypes.sizeof(ctypes.c_void_p) * entries)
 
 
 def _all_kept(values: Iterable[AnyString], name: str) -> List[BaseString]:
@@ -75,12 +76,12 @@ class StringArray(MutableSequence[BaseString]):
 
     __slots__ = ("_handle", "_strings", "_lock", "__weakref__")
     _handle: Any
-    _lock: threading.Lock  # keeps the list and the array the same
+    _lock: Any  # an RLock: keeps the list and the array the same
     _strings: List[BaseString]  # the owners of the handles in the array, entry by entry
 
     def __new__(cls: Type[_A], strings: Iterable[AnyString] = ()) -> _A:
         new = super().__new__(cls)
-        new._lock = threading.Lock()
+        new._lock = threading.RLock()
         new._strings = []
         new._handle = _create()
         kept = _all_kept(strings, "strings")
@@ -141,6 +142,8 @@ class StringArray(MutableSequence[BaseString]):
         """Edits the list and the array, which afterwards are the same even if this is interrupted.
         Returns what the edit removed: its destruction may run code of the program, which must find
         the lock free."""
+        if self._lock._is_owned():  # by an edit that a finalizer or a signal handler interrupts
+            raise RuntimeError("the array is edited during an edit of it")
         with self._lock:
             try:
                 return edit()

@@ -149,6 +149,10 @@ def _unit(value: object, name: str) -> int:
     return int.from_bytes(units, sys.byteorder)
 
 
+# Unlike ctypes.string_at(), it takes 2**31 bytes and more.
+_bytes_at: Any = ctypes.PYFUNCTYPE(ctypes.py_object, ctypes.c_void_p, ctypes.c_ssize_t)(
+    ("PyBytes_FromStringAndSize", ctypes.pythonapi)
+)
 _is_capsule: Any = ctypes.pythonapi.PyCapsule_IsValid
 _is_capsule.argtypes = [ctypes.py_object, ctypes.c_char_p]
 _pointer_of: Any = ctypes.pythonapi.PyCapsule_GetPointer
@@ -209,7 +213,8 @@ class BaseString(_SequenceOfUnits):
     def _units(self) -> bytes:
         handle = self._stable()
         length = _length(handle)
-        return ctypes.string_at(_buffer(handle), 2 * length) if length else b""
+        units: bytes = _bytes_at(_buffer(handle), 2 * length) if length else b""
+        return units
 
     def _changed(self: _S, edit: Callable[["MutableString"], object]) -> _S:
         copy = MutableString(self)
@@ -394,7 +399,7 @@ class BaseString(_SequenceOfUnits):
         other_end: Optional[int] = None,
     ) -> int:
         """As compare(), without regard to case or, with COLLATED, in the linguistic order of ICU's
-        default locale.
+        default locale. Without memory, COLLATED may give a wrong result.
 
         >>> String("straße").icompare("STRASSE"), String("côté").icompare("coter", COLLATED)
         (0, -1)
@@ -432,7 +437,10 @@ class BaseString(_SequenceOfUnits):
         first, length = self._range(start, end)
         if isinstance(sub, str):
             units = _encode(sub, "surrogatepass")[0]
-            index = of_units(self._handle, first, length, units, len(units) // 2)
+            width = len(units) // 2
+            if width > MAX_LENGTH:
+                return -1
+            index = of_units(self._handle, first, length, units, width)
         else:
             index = of_string(self._handle, first, length, _operand(sub, "sub"))
         return index
@@ -615,9 +623,9 @@ class String(BaseString):
 class MutableString(BaseString):
     """A string that can be edited. It shares the text of its source until the first edit.
 
-    Edits return the string, so that they chain; the three that may have nothing to do return
-    whether they did something. The methods that str has leave the string as it is. Indices and
-    slices can be assigned to and deleted.
+    Edits return the string, so that they chain; three return whether they did something. The
+    methods that str has leave the string as it is. Indices and slices can be assigned to and
+    deleted.
 
     >>> text = MutableString("cafe")
     >>> text.append(" noir").insert(0, "un ")
@@ -770,7 +778,7 @@ class MutableString(BaseString):
         return self._edited(len(self), _trim)
 
     def _cased(self: _M, edit: Callable[..., Any]) -> _M:
-        return self._edited(3 * len(self), edit)  # no character becomes longer
+        return self._edited(3 * len(self), edit)  # no unit becomes more than three
 
     def to_upper(self: _M) -> _M:
         """Maps to upper case by the rules of ICU's default locale. The length may change."""

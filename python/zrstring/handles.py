@@ -107,11 +107,19 @@ class Out:
 
     def __init__(self, kind: Any) -> None:
         self.kind = kind
-        self.from_param = ctypes.POINTER(kind).from_param
+        self._pointer = ctypes.POINTER(kind)
+
+    def from_param(self, value: Any) -> Any:
+        """Refuses subclasses: as a MutableStringRef, an immutable string could be edited."""
+        converted: Any = self._pointer.from_param(value)
+        target = getattr(value, "_obj", value)  # of byref()
+        if isinstance(target, self.kind) and type(target) is not self.kind:
+            raise TypeError(f"expected a {self.kind.__name__}, not {type(target).__name__}")
+        return converted
 
 
 class Error(Exception):
-    """A status other than 0, in `status`, of the function named `function`, which did nothing."""
+    """A status other than 0, in `status`, of the function named `function`."""
 
     def __init__(self, function: str, status: int, what: str) -> None:
         super().__init__(f"{function}: {what}")
@@ -208,9 +216,9 @@ class Function:
         return status
 
     def result(self, *arguments: Any) -> Any:
-        """Calls the function with all arguments but the one that it writes to, and returns what it
-        wrote, or None if it has no such argument. A status other than 0 raises an Error or, if an
-        array was not created, a MemoryError."""
+        """Calls the function with all arguments but a last one of type Out, and returns what was
+        written there, or None if it has no such argument. A status other than 0 raises an Error
+        or, if an array was not created, a MemoryError."""
         written = []
         last = list(self.parameters.values())[-1]
         if isinstance(last, Out):

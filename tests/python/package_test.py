@@ -185,6 +185,8 @@ class Package(unittest.TestCase):
         with unittest.mock.patch.object(_arrays, "_push_back", interrupted):
             self.assertRaises(KeyboardInterrupt, array.extend, "abc")
         check_that_the_library_has_the_same(array)
+        with self.assertRaises(RuntimeError):  # as from a finalizer during an edit
+            array._edit(lambda: array.append("x"))
 
     def test_every_unit_passes_both_ways(self):
         units = "".join(map(chr, range(0xFFFF, -1, -1)))
@@ -193,6 +195,8 @@ class Package(unittest.TestCase):
     def test_functions_name_the_parameter_of_a_wrong_type(self):
         for text in (String("ab").upper(), String("a") + "b", String("ab")[:1], String("a") * 2):
             self.assertRaises(TypeError, handles.ZRMutableStringTrim, text)
+        out = ctypes.byref(handles.MutableStringRef())
+        self.assertRaises(TypeError, handles.ZRStringCreateCopy, String(), out)
         numbers = (handles.Long, handles.ULong, handles.Unit)
         for function in handles.FUNCTIONS.values():
             valid = [0 if kind in numbers else None for kind in function.parameters.values()]
