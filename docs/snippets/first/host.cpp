@@ -8,6 +8,7 @@
 // The host's own files. This one keeps values as text.
 class File : public Velmar::IStream {
  public:
+  File() { text_.exceptions(std::ios::badbit); }  // running out of memory throws
   void Write(const ZRLong* value) override { text_ << *value << ' '; }
   void Write(const ZRULong* value) override { text_ << *value << ' '; }
   void Write(const unsigned short* value) override { text_ << *value << ' '; }
