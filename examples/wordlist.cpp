@@ -1,6 +1,6 @@
-// Sorts a word list in windows-1252, with one entry per line, in linguistic order, drops entries
-// that equal an earlier one without regard to case, saves the list to a file and looks up a word in
-// it.
+// Trims and sorts a word list in windows-1252, with one entry per line, in linguistic order, drops
+// empty entries and those that equal an earlier one without regard to case, saves the list to a
+// file and looks up a word in it.
 
 #include <ZRString/ZRStringInterop.h>
 #include <ZRString/ZRStringMutator.h>
@@ -43,8 +43,9 @@ constexpr const char* kUsage =
 
 constexpr const char* kHelp =
     "\n"
-    "Sorts the lines of FILE, which are in windows-1252, in the linguistic order of the\n"
-    "default locale, and drops those that equal an earlier one without regard to case.\n"
+    "Trims and sorts the lines of FILE, which are in windows-1252, in the linguistic order of\n"
+    "the default locale, and drops empty ones and those that equal an earlier one without\n"
+    "regard to case.\n"
     "\n"
     "  --replace OLD NEW  replace OLD by NEW in every line before sorting\n"
     "  --save LIST        save the result to the file LIST\n"

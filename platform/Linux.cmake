@@ -24,9 +24,9 @@ else()
     "of the C++ standard library too, and its names will have no version.")
 endif()
 
-# The stack protector guards the code that reads records and writes output; in string/ it would cost
-# up to 25 instructions in some calls, and -fcf-protection would cost one or more in every call.
-# _FORTIFY_SOURCE needs optimization. If the compiler or the user has set it, that stays.
+# The stack protector guards the code that reads records and writes output; in string/ it would make
+# calls slower, as -fcf-protection would. _FORTIFY_SOURCE needs optimization. If the compiler or
+# CMAKE_CXX_FLAGS sets it, that stays.
 option(ZRSTRING_HARDENING "Harden the library where that costs no instructions" ON)
 if(ZRSTRING_HARDENING)
   include(CheckCXXCompilerFlag)

@@ -34,8 +34,8 @@ void WriteRecord(Velmar::IStream& stream, const ZRString& string) {
 
 /// Reads the units of a record.
 ///
-/// `length` may be damaged: if it is negative, the allocation throws, and no memory is touched
-/// before a unit has been read for it.
+/// `length` may be damaged: if it is negative, the allocation throws, and memory is touched unit
+/// by unit.
 std::unique_ptr<unsigned short[]> ReadUnits(Velmar::IStream& stream, ZRLong length) {
   const auto count = static_cast<std::size_t>(length);
   std::unique_ptr<unsigned short[]> units(new unsigned short[count]);

@@ -44,8 +44,8 @@ constexpr std::int32_t kLong = 8 * kBlock;
   };
   if (Any(Differences(left, right)))
     return 0;
-  // ICU puts a number of 4 bytes before the units. From an aligned block on, none of this text, and
-  // usually none of the other, lies across two cache lines.
+  // ICU puts a number of 4 bytes before the units. From an aligned block on, no block of this text,
+  // and usually none of the other, lies across two cache lines.
   auto i = static_cast<std::int32_t>(-reinterpret_cast<std::uintptr_t>(left) % sizeof(Block) / 2);
   for (; count - i >= kLong; i += kLong) {
     const Block low = anyOfHalf(i);

@@ -26,7 +26,7 @@ UNormalizationMode IcuMode(ZRStringNormalizationMode mode) {
   return UNORM_NONE;
 }
 
-/// The least unit that may occur in a text which is not in the form: each unit below it is, alone
+/// The least unit that can keep a text out of the form: each unit below it is in the form, alone
 /// and next to any other below it. Sequences of them have neither a mark to reorder nor a pair to
 /// compose. 0 for no form.
 constexpr char16_t FirstUncertain(ZRStringNormalizationMode mode) {

@@ -13,7 +13,7 @@ namespace {
 /// again when it has been destroyed.
 std::atomic<const icu::Collator*> processCollator{nullptr};
 
-/// Set when the collator has been destroyed. A static object of the host may still compare strings
+/// Set at the end. A static object of the host may still compare strings
 /// in its destructor.
 std::atomic<bool> released{false};
 

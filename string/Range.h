@@ -10,8 +10,8 @@
 
 #include "string/CodeUnits.h"
 
-/// The length with -1 replaced by the greatest length: ICU clamps every range of a string, so the
-/// string's own length need not be looked up.
+/// The length with -1 replaced by the greatest length: ICU clamps nearly every range of a string,
+/// so the string's own length need not be looked up.
 constexpr std::int32_t Resolved(ZRLong length) { return length == kZRToEnd ? INT32_MAX : length; }
 
 /// The start and the exclusive limit of a range, which may lie past the end of the text.
@@ -25,8 +25,8 @@ struct Range {
 
 /// The units `start` through `end`, both inclusive.
 ///
-/// Clamped at 0 here because ICU 72's own Between members subtract before they clamp: a negative
-/// start would lengthen the range, and extreme values would overflow.
+/// Clamped at 0 here because most of ICU 72's own Between members subtract before they clamp: a
+/// negative start would lengthen the range, and extreme values would overflow.
 constexpr Range Between(ZRLong start, ZRLong end) {
   const auto limit = static_cast<std::int32_t>(static_cast<std::uint32_t>(end) + 1);
   if ((start | limit) >= 0)

@@ -21,8 +21,8 @@ std::int32_t Checked(std::size_t length) {
   return static_cast<std::int32_t>(length);
 }
 
-/// A new body with room for `count` units and a zero unit, and hardly more unless ICU keeps them
-/// inside the body. Expects to be filled.
+/// A new body with room for `count` units, and hardly more unless ICU keeps them inside the body.
+/// Expects to be filled.
 ZRStringImplementation* RoomFor(std::int32_t count) {
   return count <= kMaxInside ? new ZRStringImplementation()
                              : new ZRStringImplementation(count, 0, 0);

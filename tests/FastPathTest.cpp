@@ -69,8 +69,8 @@ const Text kUnits =
 
 }  // namespace
 
-// A difference at each place of texts of every size up to 40 units and of some up to 200, starting
-// at an even and at an odd unit. The letters around it are ASCII or not.
+// A difference at most places of texts of every size up to 40 units and of some up to 200, from
+// unit 0 or 1. The letters around it are ASCII or not.
 TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
   std::mt19937 random;
   for (const char16_t letter : {u'x', u'\u03B1'})

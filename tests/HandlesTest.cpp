@@ -1,4 +1,5 @@
-// Every status of every handle function, and calls of overridden virtual members.
+// The status of every invalid parameter of every handle function, and calls of overridden virtual
+// members.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>

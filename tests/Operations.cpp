@@ -84,7 +84,7 @@ bool Writes(Case& c, const Text& units) { return c.written.replace(2, units.size
 
 ZRString& Whole(Operand& operand) { return operand.part = operand.text, *operand; }
 
-/// Ten times the text, which is more than the conversions keep on the stack.
+/// Ten times the text, which can be more than the conversions keep on the stack.
 const Text& Tenfold(Operand& operand) {
   operand.part.clear();
   for (int i = 0; i < 10; ++i)

@@ -61,8 +61,7 @@ show_ninja() {
 }
 
 # logged LOG COMMAND...: runs COMMAND with its output in LOG. If it fails, prints the end of LOG and
-# stops. COMMAND may be a function: the subshell has a `set -e` that no surrounding condition
-# undoes.
+# stops. COMMAND may be a function. Do not call this in a condition: bash then ignores `set -e`.
 logged() {
   local log=$1 status progress
   shift

@@ -4,11 +4,11 @@
     write-derived.py [--check]
 
 These are the three interface classes (include/ZRString/ZRStringInterfaces.h and
-handles/InterfaceClasses.cpp), the rows of the test of all statuses (tests/HandleRows.inc), the
+handles/InterfaceClasses.cpp), the rows of the test of statuses (tests/HandleRows.inc), the
 tables in docs/statuses.md and docs/ranges.md, the declarations in python/zrstring/handles.py, and
 those for other languages in examples/languages/. The version in python/zrstring/_version.py comes
-from CMakeLists.txt, and constants come from ZRTypes.h. Run the script after a change of one of them
-and commit what it writes. --check only compares, and fails if a file is out of date.
+from CMakeLists.txt, and other constants come from ZRTypes.h. Run the script after a change of one
+of them and commit what it writes. --check only compares, and fails if a file is out of date.
 """
 
 import dataclasses

@@ -1,6 +1,6 @@
 // A program in C++ that runs Python, where both edit one string without converting its text. Python
 // gets the string's handle in a capsule, whose name says what it is; C++ gets the address of a
-// string that Python made. Prints the string after each step.
+// string that Python made. Each step prints a string.
 //
 // Needs Python's development files, and the package `zrstring` where Python finds it.
 

@@ -8,19 +8,19 @@
 #include <sstream>
 
 /// @file
-/// Writes strings to standard output streams whose characters are UTF-16 code units. Binary records
-/// are in ZRStringStream.h.
+/// Writes strings to standard streams of `unsigned short`, such as string streams. (Standard file
+/// streams cannot convert its units to bytes.) Binary records are in ZRStringStream.h.
 ///
 /// A string is inserted like a null-terminated character string: the text ends at its first zero
 /// unit, field width and fill character apply, the width is reset to 0, and failures are reported
 /// in the stream's state. `std::bad_alloc` may be thrown before anything is written.
 ///
 /// Every file of a program that uses a stream of `unsigned short` must include this header before
-/// it does. Inserting strings works without that, but `fill()`, `std::setfill` and `std::endl` do
-/// not: they call the specialization below, and one file that does not include it can replace it in
-/// the whole program by the standard library's version, which throws `std::bad_cast`. Numbers
-/// cannot be inserted in any case: standard libraries have no facet that formats them for this
-/// type.
+/// it uses one. Inserting strings works without that, but `fill()`, `std::setfill` and `std::endl`
+/// do not: they call the specialization below, and one file that does not include it can replace it
+/// in the whole program by the standard library's version, which throws `std::bad_cast`. Numbers
+/// and single characters cannot be inserted in any case: there is no facet that formats numbers for
+/// this type, and a unit is one.
 /// @code
 /// std::basic_ostringstream<unsigned short> out;
 /// out.width(4);
@@ -30,9 +30,9 @@
 
 /// Widens an ASCII character, such as the default fill character, to a code unit.
 ///
-/// Streams widen through the locale's `std::ctype` facet, which no standard library provides for
+/// Streams widen through the locale's `std::ctype` facet, which libstdc++ does not provide for
 /// `unsigned short`. This is a specialization of a standard class's member for a fundamental type,
-/// which the C++ standard does not allow and standard libraries accept. A facet of our own would
+/// which the C++ standard does not allow and libstdc++ accepts. A facet of our own would
 /// need no such liberty, but every stream's locale would have to be given it, also after the host
 /// has changed the global locale.
 template <>

@@ -38,8 +38,8 @@
 /// Data flows in the direction of the arrows, and every operator returns its stream. Exceptions of
 /// the stream pass through, and reading may throw `std::bad_alloc`. Either leaves a mutator as it
 /// was, and an array with the entries that were complete. Reading into a mutator ends with SetTo():
-/// if ICU cannot hold the text, the mutator is left in ICU's error state, which ZRStringMutator
-/// describes.
+/// if ICU has no memory for the text or cannot hold it, the mutator is left in ICU's error state,
+/// which ZRStringMutator describes.
 ///
 /// Lengths and counts are trusted: a reader allocates as many units as a length says, and asks the
 /// stream for as many strings as a count says.

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs a build of ZRString, copies the installed tree elsewhere and uninstalls all. Compares the
 # installed files with files.txt. With the copy, builds and runs a C++ project through find_package
-# and, through pkg-config, the programs of the README, the pages and the headers; and compiles every
-# public header alone. Makes the sources part of another project.
+# and, through pkg-config, the programs of the README and the headers and one of the pages; and
+# compiles every public header alone. Makes the sources part of another project.
 # ctest sets BUILD, the build folder; CONFIG, its build type; LIBDIR, its folder of libraries below
 # the prefix; CMAKE, CC, CXX and CXXFLAGS.
 # shellcheck disable=SC2046,SC2206 # what is not quoted holds several options
@@ -72,7 +72,7 @@ logged "$work/cpp.log" "$CMAKE" --build "$work/cpp"
 check_program "$work/cpp/road" "$work/road.txt"
 for standard in 17 20 23; do check_program "$work/cpp/vector$standard" /dev/null; done
 
-say "programs of the README, the pages and the headers, through pkg-config"
+say "programs of the README, a page and the headers, through pkg-config"
 awk '/\/ @name/ {bare = $0} /\/ @code/ {bare = ""} /\/ @\{/ && bare {print FILENAME bare; exit 1}' \
   "$top"/include/ZRString/*.h || die "a group of members has no example"
 for source in readme.c readme.cpp road.c classes.cpp interop.cpp handles.c; do

@@ -1,5 +1,5 @@
 // Calls every function of Handles.cs with each parameter that it tests invalid in turn, and
-// compares the statuses. An out-parameter cannot be invalid here. Its argument is HandleRows.inc.
+// compares the statuses. Out-parameters are not tried. Its argument is HandleRows.inc.
 using System;
 using System.Collections.Generic;
 using System.IO;

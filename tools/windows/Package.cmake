@@ -1,6 +1,6 @@
 # What tools/windows/make-packages.sh packs besides the library and its headers: the DLLs that it
-# loads, with their licences, the import library for Microsoft's linker, and README.txt. The DLLs
-# lie beside the programs in the build folder too, so that these can be run.
+# loads, with their licences, the import library for Microsoft's linker, README.txt and the
+# example in C#. The DLLs lie beside the programs in the build folder too, so that these can be run.
 find_program(ZRSTRING_DLLTOOL llvm-dlltool REQUIRED)
 math(EXPR bits "${CMAKE_SIZEOF_VOID_P} * 8")
 if(bits EQUAL 32)
