@@ -55,7 +55,7 @@ class FoldedText {
     return true;
   }
 
-  static constexpr std::int32_t kLongest = 3;  // no code point folds to more units
+  static constexpr std::int32_t kLongest = 6;  // a code point folds to three at most
   // Option bits of ICU: which folding, and whether a zero unit ends the texts.
   static constexpr std::uint32_t kFoldingBits = 0x7;
   static constexpr std::uint32_t kStopsAtZero = 0x1000;
