@@ -36,10 +36,6 @@ constexpr std::int32_t kMaxLength = 0x7FFFFFF5;
 constexpr std::int32_t kMaxInside =
     (UNISTR_OBJECT_SIZE - sizeof(void*) - sizeof(std::int16_t)) / sizeof(char16_t);
 
-/// The length of a raw operand with -1 for every negative length. Some of ICU 72's members read
-/// only -1 as "up to the terminating zero unit".
-inline std::int32_t RawLength(ZRLong length) { return length < 0 ? -1 : length; }
-
 /// Units that belong to somebody else. `first` is null where there is no text.
 struct Units {
   const char16_t* first;
@@ -51,7 +47,7 @@ struct Units {
 /// For ICU 72's startsWith(), which measures a text from its beginning whatever the start, and for
 /// calls that do not take a null text for an empty one.
 inline Units RawUnits(const unsigned short* text, ZRLong start, ZRLong length) {
-  return text ? Units{ToIcu(text + start), RawLength(length)} : Units{nullptr, 0};
+  return text ? Units{ToIcu(text + start), length} : Units{nullptr, 0};
 }
 
 /// The number of units before the zero unit, at most INT32_MAX.

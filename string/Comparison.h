@@ -10,7 +10,8 @@
 
 // Comparisons that answer before ICU, where they can: ICU 72 compares unit by unit, these compare
 // blocks. What they decide, they decide as ICU does. Null units are left to ICU: of an open buffer,
-// of a text in the error state, or of a null operand.
+// of a text in the error state, or of a null operand. What every comparison needs is inlined
+// always: left to the compiler, it changes with unrelated code.
 
 /// The result of a comparison that only ICU decides.
 constexpr signed char kUndecided = 2;
@@ -56,7 +57,8 @@ constexpr std::int32_t kLong = 8 * kBlock;
 }
 
 /// The number of units before the first difference, at most `count`.
-inline std::int32_t EqualUnits(const char16_t* left, const char16_t* right, std::int32_t count) {
+[[gnu::always_inline]] inline std::int32_t EqualUnits(const char16_t* left, const char16_t* right,
+                                                      std::int32_t count) {
   std::int32_t i = 0;
   if constexpr (kHasBlocks) {
     if (count >= kLong)
@@ -79,7 +81,7 @@ constexpr signed char Order(std::int32_t left, std::int32_t right) {
 }
 
 /// Compares in code unit order. Decides all texts but null ones.
-inline signed char InUnitOrder(Units left, Units right) {
+[[gnu::always_inline]] inline signed char InUnitOrder(Units left, Units right) {
   if (!left.first || !right.first)
     return kUndecided;
   const std::int32_t shorter = std::min(left.count, right.count);
@@ -89,7 +91,7 @@ inline signed char InUnitOrder(Units left, Units right) {
 }
 
 /// Whether the unit at `place` is half of a surrogate pair.
-inline bool IsInPair(Units text, std::int32_t place) {
+[[gnu::always_inline]] inline bool IsInPair(Units text, std::int32_t place) {
   const char16_t unit = text.first[place];
   return IsLead(unit) ? place + 1 < text.count && IsTrail(text.first[place + 1])
                       : IsTrail(unit) && place > 0 && IsLead(text.first[place - 1]);
@@ -97,7 +99,7 @@ inline bool IsInPair(Units text, std::int32_t place) {
 
 /// Compares in code point order: by the units in which the texts first differ, except that half of
 /// a pair sorts after every unit that is none. Decides all texts but null ones.
-inline signed char InCodePointOrder(Units left, Units right) {
+[[gnu::always_inline]] inline signed char InCodePointOrder(Units left, Units right) {
   if (!left.first || !right.first)
     return kUndecided;
   const std::int32_t shorter = std::min(left.count, right.count);

@@ -34,17 +34,22 @@ constexpr Range Between(ZRLong start, ZRLong end) {
   return {std::max<std::int32_t>(start, 0), end < 0 ? 0 : end < INT32_MAX ? end + 1 : INT32_MAX};
 }
 
+// Inlined always, as what string/Comparison.h says of itself.
+
 /// The units of a text; null for an open buffer and in the error state.
-inline Units UnitsOf(const icu::UnicodeString& text) { return {text.getBuffer(), text.length()}; }
+[[gnu::always_inline]] inline Units UnitsOf(const icu::UnicodeString& text) {
+  return {text.getBuffer(), text.length()};
+}
 
 /// The units of a range of `text`, clamped to it; null for an open buffer and in the error state.
-inline Units UnitsOf(const icu::UnicodeString& text, ZRLong start, ZRLong length) {
+[[gnu::always_inline]] inline Units UnitsOf(const icu::UnicodeString& text, ZRLong start,
+                                            ZRLong length) {
   const std::int32_t first = std::clamp<std::int32_t>(start, 0, text.length());
   return {text.getBuffer() + first,
           std::clamp<std::int32_t>(Resolved(length), 0, text.length() - first)};
 }
 
-inline Units UnitsOf(const icu::UnicodeString& text, Range range) {
+[[gnu::always_inline]] inline Units UnitsOf(const icu::UnicodeString& text, Range range) {
   return UnitsOf(text, range.start, range.Length());
 }
 
