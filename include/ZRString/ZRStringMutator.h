@@ -45,8 +45,8 @@ enum ZRStringNormalizationMode : int {
 /// string's own units, throw `std::bad_alloc` and leave this string and every operand as they were.
 /// If ICU runs out of memory inside an edit, except Normalize(), or the text would grow past what
 /// ICU can hold, this string's text is lost and in ICU's error state. Its length is then 0 and its
-/// buffer null. It compares equal only to a string in the same state (collated, to any empty one),
-/// and ignores edits until SetTo() gives it a new text, Truncate(0) or Remove(0, INT32_MAX) empties
+/// buffer null. Among strings it equals only one in the same state (collated, any empty one), and
+/// ignores edits until SetTo() gives it a new text, Truncate(0) or Remove(0, INT32_MAX) empties
 /// it, or another string is assigned. The first ToUpper() or ToLower() may crash instead.
 ///
 /// **Open buffer.** From GetBuffer(ZRLong) to ReleaseBuffer() the text reads as empty and ignores

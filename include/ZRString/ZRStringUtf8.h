@@ -44,7 +44,7 @@
 
 /// Statuses of the functions of this header, beside those of ZRStringHandles.h.
 enum {
-  kZRStatusNoMemory = 13,  ///< Memory ran out, or the text is too long; nothing was written.
+  kZRStatusNoMemory = 13,  ///< Memory ran out, or ICU cannot hold the text; nothing was written.
   kZRStatusTextLost = 14   ///< ICU could not hold the edited text, which is lost; or nothing was
                            ///< appended, to an open buffer or a text already lost.
 };
