@@ -21,11 +21,15 @@ install_library() {
 }
 
 # For each language: installs its compiler; and builds `program`, with a check of all declarations.
-get_rust() { need rustc rustc && need bindgen bindgen libclang-dev; }
+get_rust() { need rustc rustc && "$top/tools/install-packages.sh" bindgen libclang-dev; }
 build_rust() {
+  local clang
   rustc --edition 2021 -D warnings -L "$build/prefix/lib" "$examples/rust/main.rs" -o program
-  # The compiler compares the declarations with those that clang reads in the C header.
-  bindgen "$top/include/ZRString/ZRStringHandles.h" -o header.rs -- -I "$top/include"
+  # The compiler compares the declarations with those that clang reads in the C header. Of several
+  # versions of libclang, bindgen would take the newest, which may be too new for it.
+  clang=$(dpkg-query -W -f '${Depends}' libclang-dev | grep -oE '[0-9]+' | head -n 1)
+  LIBCLANG_PATH=/usr/lib/llvm-$clang/lib bindgen -o header.rs \
+    "$top/include/ZRString/ZRStringHandles.h" -- -I "$top/include"
   printf '#[path = "%s"]\n#[allow(warnings)]\n#[deny(clashing_extern_declarations)]\nmod m%d;\n' \
     "$examples/rust/handles.rs" 1 header.rs 2 > all.rs
   rustc --edition 2021 --crate-type lib --emit metadata all.rs
