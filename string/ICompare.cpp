@@ -35,8 +35,6 @@ class FoldedText {
     if (next_ == length_ && !FoldNext())
       return -1;
     const char16_t unit = folded_[next_++];
-    if (unit == 0 && (options_ & kStopsAtZero) != 0)
-      return -1;
     return (options_ & U_COMPARE_CODE_POINT_ORDER) != 0 && IsLead(unit) && next_ < length_
                ? U16_GET_SUPPLEMENTARY(unit, folded_[next_++])
                : unit;
@@ -55,10 +53,8 @@ class FoldedText {
     return true;
   }
 
-  static constexpr std::int32_t kLongest = 6;  // a code point folds to three at most
-  // Option bits of ICU: which folding, and whether a zero unit ends the texts.
-  static constexpr std::uint32_t kFoldingBits = 0x7;
-  static constexpr std::uint32_t kStopsAtZero = 0x1000;
+  static constexpr std::int32_t kLongest = 6;         // a code point folds to three at most
+  static constexpr std::uint32_t kFoldingBits = 0x7;  // the option bits that choose the folding
 
   const Units text_;
   const std::uint32_t options_;
@@ -68,7 +64,7 @@ class FoldedText {
   std::int32_t length_ = 0;
 };
 
-/// Compares without u_strCaseCompare(), and slowly.
+/// Compares texts that differ, without u_strCaseCompare(), and slowly.
 [[gnu::cold, gnu::noinline]] signed char CompareFolded(Units own, Units other,
                                                        std::uint32_t options) {
   FoldedText left(own, options), right(other, options);

@@ -47,7 +47,7 @@ void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
                      string.CompareCodePointOrderBetween(start, end, other, start, all)}))
       << "CompareCodePointOrder";
   EXPECT_TRUE(agree(ours < theirs, {string<other, !(string >= other), other> string}));
-  for (const ZRULong options : {0u, 0x8000u, 1u, 4u, 0x8001u, 0x10000u})
+  for (const ZRULong options : {0u, 0x8000u, 1u, 4u, 0x1000u, 0x8001u, 0x10000u})
     EXPECT_TRUE(agree(ours.caseCompare(start, all, theirs, start, all, options),
                       {string.ICompare(start, -1, other, start, -1, options),
                        string.ICompare(start, -1, raw, start, rest, options),
@@ -65,7 +65,8 @@ void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
 
 const Text kUnits =
     u"\x01!akKsSiIzZ@[`{\x7F\x80\u00DF\u00E9\u00C9\u0130\u0131\u017F\u0301\u03A3\u03C3"
-    u"\u1E9E\u212A\uFB00\uE000\uFFFF\xD83D\xDE00";
+    u"\u1E9E\u212A\uFB00\uE000\uFFFF\xD83D\xDE00" +
+    Text(1, u'\0');
 
 }  // namespace
 
