@@ -82,8 +82,7 @@ signed char IcuCaseCompare(Units left, Units right, std::uint32_t options) {
                0);
 }
 
-/// What follows the equal beginnings of two texts, compared by ICU. Out of line, as the caller
-/// decides most texts.
+/// Compares by ICU what is not decided yet of two texts. Out of line, as the caller decides most.
 ///
 /// Where `own` has an unpaired lead surrogate and a letter that folds, and `other` a pair with the
 /// same lead that folds, ICU 72 reads the unit before an array on its stack: it finds a difference,
@@ -104,9 +103,12 @@ signed char IcuCaseCompare(Units left, Units right, std::uint32_t options) {
 signed char IgnoringCase(Units own, Units other, std::uint32_t options) {
   if (!own.first || !other.first)
     return kUndecided;
-  if (options == U_FOLD_CASE_DEFAULT || options == U_COMPARE_CODE_POINT_ORDER)
+  if (options == U_FOLD_CASE_DEFAULT || options == U_COMPARE_CODE_POINT_ORDER) {
     if (const signed char order = IgnoringAsciiCase(own, other); order != kUndecided)
       return order;
+  } else if (own.first == other.first) {  // caseCompare() then looks only at the lengths
+    return kUndecided;
+  }
   return CaseCompareRest(own, other, options);
 }
 

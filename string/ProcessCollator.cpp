@@ -13,8 +13,8 @@ namespace {
 /// again when it has been destroyed.
 std::atomic<const icu::Collator*> processCollator{nullptr};
 
-/// Set at the end. A static object of the host may still compare strings
-/// in its destructor.
+/// Set at exit or unloading. A static object of the host may still compare strings in its
+/// destructor.
 std::atomic<bool> released{false};
 
 struct CollatorOwner {

@@ -34,7 +34,7 @@ constexpr Range Between(ZRLong start, ZRLong end) {
   return {std::max<std::int32_t>(start, 0), end < 0 ? 0 : end < INT32_MAX ? end + 1 : INT32_MAX};
 }
 
-// Inlined always, as what string/Comparison.h says of itself.
+// Always inlined; string/Comparison.h says why.
 
 /// The units of a text; null for an open buffer and in the error state.
 [[gnu::always_inline]] inline Units UnitsOf(const icu::UnicodeString& text) {

@@ -47,12 +47,16 @@ void ExpectIcusAnswers(const Text& left, const Text& right, ZRLong start) {
                      string.CompareCodePointOrderBetween(start, end, other, start, all)}))
       << "CompareCodePointOrder";
   EXPECT_TRUE(agree(ours < theirs, {string<other, !(string >= other), other> string}));
-  for (const ZRULong options : {0u, 0x8000u, 1u, 4u, 0x1000u, 0x8001u, 0x10000u})
+  for (const ZRULong options : {0u, 0x8000u, 1u, 4u, 0x1000u, 0x8001u, 0x10000u}) {
     EXPECT_TRUE(agree(ours.caseCompare(start, all, theirs, start, all, options),
                       {string.ICompare(start, -1, other, start, -1, options),
                        string.ICompare(start, -1, raw, start, rest, options),
                        string.ICompareBetween(start, end, other, start, all, options)}))
         << "ICompare, option " << options;
+    EXPECT_EQ(ours.caseCompare(0, 9, ours, 0, all, options),
+              string.ICompare(0, 9, string, 0, -1, options))
+        << "ICompare with itself, option " << options;
+  }
   for (const ZRLong count : {1, 2, 5})
     for (const ZRLong place : {start, theirs.length() - count})
       if (place >= 0 && place + count <= theirs.length()) {
@@ -70,8 +74,8 @@ const Text kUnits =
 
 }  // namespace
 
-// A difference at most places of texts of every size up to 40 units and of some up to 200, from
-// unit 0 or 1. The letters around it are ASCII or not.
+// A difference at nearly every place of texts of every size up to 40 units and of some up to 200,
+// from unit 0 or 1. The letters around it are ASCII or not.
 TEST(FastPath, EveryPlaceOfADifferenceAndEveryLength) {
   std::mt19937 random;
   for (const char16_t letter : {u'x', u'\u03B1'})
@@ -108,7 +112,8 @@ TEST(FastPath, IllFormedTextsAreOrderedByWhatTheyFoldTo) {
   for (std::size_t i = 0; i <= letters.size(); ++i)
     for (const char16_t letter : letters)
       texts.push_back(texts[i] + letter);
-  for (const Text& end : {Text(), Text(100, u'z')})  // short and long texts are looked at otherwise
+  // Short and long texts are looked at differently.
+  for (const Text& end : {Text(), Text(100, u'z')})
     for (const ZRULong options : {0u, 0x8000u, 1u, 0x8001u})
       for (const Text& left : texts)
         for (const Text& right : texts) {

@@ -113,8 +113,10 @@ class Out:
         """Refuses subclasses: as a MutableStringRef, an immutable string could be edited."""
         converted: Any = self._pointer.from_param(value)
         target = getattr(value, "_obj", value)  # of byref()
-        if isinstance(target, self.kind) and type(target) is not self.kind:
-            raise TypeError(f"expected a {self.kind.__name__}, not {type(target).__name__}")
+        is_object = isinstance(target, self.kind)
+        kind = type(target) if is_object else getattr(target, "_type_", self.kind)
+        if kind is not self.kind:
+            raise TypeError(f"expected a {self.kind.__name__}, not {kind.__name__}")
         return converted
 
 

@@ -195,8 +195,9 @@ class Package(unittest.TestCase):
     def test_functions_name_the_parameter_of_a_wrong_type(self):
         for text in (String("ab").upper(), String("a") + "b", String("ab")[:1], String("a") * 2):
             self.assertRaises(TypeError, handles.ZRMutableStringTrim, text)
-        out = ctypes.byref(handles.MutableStringRef())
-        self.assertRaises(TypeError, handles.ZRStringCreateCopy, String(), out)
+        out = handles.MutableStringRef()
+        for pointer in (out, ctypes.byref(out), ctypes.pointer(out)):
+            self.assertRaises(TypeError, handles.ZRStringCreateCopy, String(), pointer)
         numbers = (handles.Long, handles.ULong, handles.Unit)
         for function in handles.FUNCTIONS.values():
             valid = [0 if kind in numbers else None for kind in function.parameters.values()]
