@@ -50,10 +50,10 @@
 /// state, reads as empty, except where a comment says otherwise.
 ///
 /// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted,
-/// counted or looked for; so do a sum of so many units, and UTF-8 that a `std::string` cannot hold.
-/// UTF-8 may have any number of bytes. If memory runs out, or if ICU cannot hold what a function
-/// makes, it throws `std::bad_alloc`; but the first UpperCase() or LowerCase() may crash instead.
-/// The header does not compile without exceptions.
+/// counted or looked for; so do a sum of so many units, but for a mutator plus a string, and UTF-8
+/// that a `std::string` cannot hold. UTF-8 may have any number of bytes. If memory runs out, or if
+/// ICU cannot hold what a function makes, it throws `std::bad_alloc`; but the first UpperCase() or
+/// LowerCase() may crash instead. The header does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units

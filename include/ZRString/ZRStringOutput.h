@@ -20,7 +20,7 @@
 /// do not: they call the specialization below, and one file that does not include it can replace it
 /// in the whole program by the standard library's version, which throws `std::bad_cast`. Numbers
 /// and single characters cannot be inserted in any case: there is no facet that formats numbers for
-/// this type, and a unit is one.
+/// this type, and a unit is a number.
 /// @code
 /// std::basic_ostringstream<unsigned short> out;
 /// out.width(4);
