@@ -9,6 +9,7 @@ UTF-8 for Wine, which converts them and so cannot pass UTF-8.
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import subprocess
 import sys
@@ -141,7 +142,7 @@ if __name__ == "__main__":
     ENCODING = os.environ.get("ARGUMENTS", "windows-1252")
     # The leaks that a sanitizer finds in Python are Python's. ICU's default locale is LC_ALL's.
     python = f"env ASAN_OPTIONS=detect_leaks=0 {sys.executable} "
-    LOOKUPS = ["lookup", *(python + script for script in scripts)]
+    LOOKUPS = ["lookup", *(python + shlex.quote(script) for script in scripts)]
     os.environ["PATH"] = programs + ":" + os.environ["PATH"]
     os.environ.update(LC_ALL="fr_FR.UTF-8", PYTHONUTF8="1", ASAN_OPTIONS="")
     with tempfile.TemporaryDirectory() as folder:
