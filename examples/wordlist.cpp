@@ -49,7 +49,7 @@ constexpr const char* kHelp =
     "\n"
     "  --replace OLD NEW  replace OLD by NEW in every line before sorting\n"
     "  --save LIST        save the result to the file LIST\n"
-    "  --load LIST        start from a saved list\n"
+    "  --load LIST        start from a list that was saved in the same locale\n"
     "  --find WORD        print the place of WORD in the list\n"
     "  -h, --help         print this help\n"
     "\n"

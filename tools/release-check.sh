@@ -105,7 +105,7 @@ for part in $wanted; do
   [[ " $parts " == *" $part "* ]] || { usage >&2; exit 2; }
 done
 mkdir -p "$out"
-: > "$rows"
+"$dry_run" || : > "$rows"
 
 one_process='the tests that run in one process'
 windows='the tests and the package'

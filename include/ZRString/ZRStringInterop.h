@@ -285,9 +285,9 @@ struct ZRStringLess {
 
 /// @name Operators
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
-/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy. In both, a
-/// text in ICU's error state counts as empty. A mutator plus a string is what
-/// ZRStringMutator::operator+ makes of them.
+/// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy; `+=` itself
+/// takes no views: `text += u"x"_zr`. In both, a text in ICU's error state counts as empty. A
+/// mutator plus a string is what ZRStringMutator::operator+ makes of them.
 /// @code
 /// const ZRString name = u"un"_zr + u", deux";
 /// assert(name == u"un, deux" && name < u"une");

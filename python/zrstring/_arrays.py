@@ -48,10 +48,11 @@ def _integers(cut: slice) -> slice:
 
 
 def _reserve(entries: int) -> None:
-    """As for strings: the library could not report that it has no memory for so many entries. While
-    it grows, an array has both its old storage and the new one of up to twice the size."""
+    """As for strings: the library could not report that it has no memory for so many entries. An
+    array that grows needs storage of up to twice its size, and the freed ones, all together as
+    large, may lie in its way."""
     if entries > 2**12:
-        bytearray(3 * ctypes.sizeof(ctypes.c_void_p) * entries)
+        bytearray(5 * ctypes.sizeof(ctypes.c_void_p) * entries)
 
 
 def _all_kept(values: Iterable[AnyString], name: str) -> List[BaseString]:
