@@ -18,7 +18,7 @@ std::uint32_t IcuOptions(ZRULong options) {
 }
 
 /// Whether some lead surrogate is followed by a unit that is no trail surrogate.
-[[gnu::cold]] bool HasUnpairedLead(Units text) {
+bool HasUnpairedLead(Units text) {
   for (std::int32_t i = 0; i + 1 < text.count; ++i)
     if (IsLead(text.first[i]) && !IsTrail(text.first[i + 1]))
       return true;
@@ -31,7 +31,7 @@ class FoldedText {
   FoldedText(Units text, std::uint32_t options) : text_(text), options_(options) {}
 
   /// The next unit or code point, or -1 at the end.
-  [[gnu::cold]] std::int32_t Next() {
+  std::int32_t Next() {
     if (next_ == length_ && !FoldNext())
       return -1;
     const char16_t unit = folded_[next_++];
@@ -41,7 +41,7 @@ class FoldedText {
   }
 
  private:
-  [[gnu::cold]] bool FoldNext() {
+  bool FoldNext() {
     if (place_ == text_.count)
       return false;
     const std::int32_t start = place_;
@@ -92,8 +92,8 @@ signed char IcuCaseCompare(Units left, Units right, std::uint32_t options) {
                                                          std::uint32_t options) {
   constexpr std::int32_t kShort = 64;
   const signed char order = IcuCaseCompare(own, other, options);
-  if (order == 0 || (own.count <= kShort ? AreBelow(own, 0xD800) || !HasUnpairedLead(own)
-                                         : IcuCaseCompare(other, own, options) == -order))
+  if (order == 0 ||
+      (own.count <= kShort ? !HasUnpairedLead(own) : IcuCaseCompare(other, own, options) == -order))
     return order;
   return CompareFolded(own, other, options);
 }

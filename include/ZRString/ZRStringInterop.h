@@ -482,9 +482,9 @@ char32_t CodePointAt(const Text& text, ZRLong index) {
 /// Most call the member that their comment names, with default arguments. A `text` is a ZRString or
 /// what converts to `std::u16string_view`, of which a string is made first. What a function looks
 /// for, a new part and a separator may also be single units, `char16_t` or `unsigned short`. A text
-/// with an open buffer or in ICU's error state is empty. But if one of two texts is in the error
-/// state, StartsWith() and EndsWith() are false, if both are, true; and ReplacedAll() with it as
-/// the new part changes nothing.
+/// with an open buffer or in ICU's error state is empty. But if just one of two texts is in the
+/// error state, StartsWith() and EndsWith() are false, if both are, true; and ReplacedAll() with
+/// such a new part changes nothing.
 /// @code
 /// const ZRString list = u"un, deux, un"_zr;
 /// assert(Contains(list, u"deux") && IndexOf(list, u"un", 1) == 10 && EndsWith(list, u"un"));
