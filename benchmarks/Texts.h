@@ -42,10 +42,10 @@ struct Texts {
   Operand accentedUpper{u"\u00C0 C\u00D4T\u00C9 DE L'\u00C9T\u00C9 D\u00C9J\u00C0"};
   Operand greek{
       u"\u03BA\u03B1\u03BB\u03B7\u03BC\u03AD\u03C1\u03B1 \u03BA\u03CC\u03C3\u03BC\u03B5 "
-      u"\u03BA\u03B1\u03B9 \u03B3\u03B7"};
+      u"\u03BA\u03B1\u03B9 \u03B3"};
   Operand greekUpper{
       u"\u039A\u0391\u039B\u0397\u039C\u0388\u03A1\u0391 \u039A\u038C\u03A3\u039C\u0395 "
-      u"\u039A\u0391\u0399 \u0393\u0397"};
+      u"\u039A\u0391\u0399 \u0393"};
   Operand paired{
       u"\U00010428\U00010429\U0001042A\U0001042B\U0001042C\U0001042D\U0001042E\U0001042F"
       u"\U00010430\U00010431"};

@@ -3,9 +3,10 @@
 
     check-page.py PAGE [PROGRAM [ARGUMENT...]]
 
-Names are the targets of relative links, and in backticks the names of files, of folders with their
-slash, and of tests (Suite.Name). A name without its folder may be anywhere in the tree, and a star
-stands for any characters. A file may be made from one whose name ends in ".in".
+Names are the targets of relative links, and in backticks the names of files with the endings below,
+of folders with their slash, and of tests in tests/*.cpp (Suite.Name). A name without its folder may
+be anywhere in the tree, and a star stands for any characters. A file may be made from one whose
+name ends in ".in".
 
 Every block of the program's output (lines between blank lines) must be a block of the page, where
 code fences end a block too.

@@ -1,6 +1,6 @@
 /* Looks up a word in a word list with one entry per line, through the handle interface. Both are in
- * UTF-8 or, by an option, in windows-1252. The list is sorted in linguistic order, and entries that
- * equal an earlier one without regard to case are dropped. */
+ * UTF-8 or, by an option, in windows-1252. The list is sorted in linguistic order; then entries
+ * that equal an earlier one without regard to case are dropped. */
 
 #include <ZRString/ZRStringUtf8.h>
 #include <errno.h>
@@ -8,7 +8,7 @@
 #include <stdlib.h>
 #include <string.h>
 
-/* In bytes. A string holds some 2^31 units. */
+/* In bytes. */
 #ifndef LONGEST_LINE
 #define LONGEST_LINE 2000000000
 #endif
@@ -110,8 +110,8 @@ static ZRULong SizeOf(ZRStringPtrArrayRef__* words) {
   return size;
 }
 
-/* Sorts the list and drops entries that equal an earlier one without regard to case. Arrays have no
- * sort function: the handles are taken out, sorted and put back. */
+/* Sorts the list and then drops entries that equal an earlier one without regard to case. Arrays
+ * have no sort function: the handles are taken out, sorted and put back. */
 static void Sort(ZRStringPtrArrayRef__* words) {
   const ZRULong size = SizeOf(words);
   ZRULong kept = 0;

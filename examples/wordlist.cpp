@@ -44,7 +44,7 @@ constexpr const char* kUsage =
 constexpr const char* kHelp =
     "\n"
     "Trims and sorts the lines of FILE, which are in windows-1252, in the linguistic order of\n"
-    "the default locale, and drops empty ones and those that equal an earlier one without\n"
+    "the default locale, then drops empty ones and those that equal an earlier one without\n"
     "regard to case.\n"
     "\n"
     "  --replace OLD NEW  replace OLD by NEW in every line before sorting\n"
@@ -194,10 +194,9 @@ void Edit(WordList& words, const Options& options) {
     if (!word.IsEmpty())
       std::swap(words.Begin()[kept++], *entry);
   }
-  while (words.Size() > kept) {
-    delete words[static_cast<ZRLong>(kept)];
-    words.Erase(static_cast<ZRLong>(kept));
-  }
+  std::for_each(words.Begin() + kept, words.End(), [](const ZRString* word) { delete word; });
+  while (words.Size() > kept)
+    words.Erase(words.End() - 1);
 }
 
 void Sort(WordList& words) {

@@ -27,7 +27,7 @@ endif()
 # The stack protector guards the code that reads records and writes output; in string/ it would make
 # calls slower, as -fcf-protection would. _FORTIFY_SOURCE needs optimization. If the compiler or
 # CMAKE_CXX_FLAGS sets it, that stays.
-option(ZRSTRING_HARDENING "Harden the library where that costs no instructions" ON)
+option(ZRSTRING_HARDENING "Harden the library where that makes no counted call slower" ON)
 if(ZRSTRING_HARDENING)
   include(CheckCXXCompilerFlag)
   check_cxx_compiler_flag(-fstack-protector-strong ZRSTRING_COMPILER_HAS_STACK_PROTECTOR)

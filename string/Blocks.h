@@ -13,7 +13,7 @@
 constexpr bool kHasBlocks = true;
 #else
 constexpr bool kHasBlocks = false;
-#pragma GCC diagnostic ignored "-Wpsabi"  // no compiled function passes a block to another
+#pragma GCC diagnostic ignored "-Wpsabi"  // blocks pass between inline functions only
 #endif
 
 using Block = std::uint16_t __attribute__((vector_size(16)));

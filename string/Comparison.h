@@ -8,10 +8,10 @@
 #include "string/Blocks.h"
 #include "string/CodeUnits.h"
 
-// Comparisons that answer before ICU, where they can: ICU 72 compares unit by unit, these compare
-// blocks. What they decide, they decide as ICU does. Null units are left to ICU: of an open buffer,
-// of a text in the error state, or of a null operand. What every comparison needs is always
-// inlined: left to the compiler, it changes with unrelated code.
+// Comparisons that answer before ICU, where they can. What they decide, they decide as ICU does.
+// Null units are left to ICU: of an open buffer, of a text in the error state, or of a null
+// operand. What every comparison needs is always inlined: left to the compiler, it changes with
+// unrelated code.
 
 /// The result of a comparison that only ICU decides.
 constexpr signed char kUndecided = 2;

@@ -98,8 +98,8 @@ signed char IcuCaseCompare(Units left, Units right, std::uint32_t options) {
   return CompareFolded(own, other, options);
 }
 
-/// Compares without regard to case, with ICU only from the first unit that is neither equal nor
-/// ASCII. Leaves null texts to ICU.
+/// Compares without regard to case; with default folding, asks ICU only from the first unit on that
+/// is neither equal nor ASCII. Leaves null texts to ICU.
 signed char IgnoringCase(Units own, Units other, std::uint32_t options) {
   if (!own.first || !other.first)
     return kUndecided;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Written once, with the owner's lock, and read without it. Null until it has been created, and
+/// Created with the owner's lock, and read without it. Null until it has been created, and
 /// again when it has been destroyed.
 std::atomic<const icu::Collator*> processCollator{nullptr};
 
@@ -29,7 +29,6 @@ struct CollatorOwner {
 const icu::Collator* CreatedCollator() {
   if (released.load(std::memory_order_relaxed))
     return nullptr;
-  // Local statics are destroyed in reverse order: the locale first, then the collator.
   static CollatorOwner owner;
   static const icu::Locale locale;
 

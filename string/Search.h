@@ -17,8 +17,7 @@ inline bool MaySplitPair(Units pattern) {
 }
 
 /// The place of the first occurrence of a pattern for which MaySplitPair() is false; -1 if there is
-/// none. ICU looks at one place after another; this looks at blocks of places, for the first and
-/// the last unit of the pattern.
+/// none. Looks at blocks of places, for the first and the last unit of the pattern.
 [[gnu::noinline]] inline std::int32_t IndexOfWhole(Units text, Units pattern) {
   const char16_t first = pattern.first[0], last = pattern.first[pattern.count - 1];
   const std::int32_t places = text.count - pattern.count + 1;

@@ -16,7 +16,7 @@ struct Memory {
   /// Lets `point` allocations succeed and then `count` fail.
   void Fail(long point, long count) { first = allocations + point, limit = first + count; }
 
-  /// Lets all allocations succeed again. @return whether one failed
+  /// Lets all allocations succeed again. @return whether the first one to fail was made
   bool Recover() { return allocations > std::exchange(first, LONG_MAX); }
 
   void* Allocate(std::size_t size) {

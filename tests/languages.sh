@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Builds the programs of examples/languages/ with the installed library, or those of the languages
 # that are named, and compares what they print with docs/languages.md. Checks that they destroy all
-# objects that they create, and checks the declarations of all functions. Installs the Debian
-# packages that are missing; skips a language whose compiler cannot be installed. Takes a minute.
+# objects that they create, and checks the declarations of the functions. Installs the Debian
+# packages that are missing; skips a language whose compiler cannot be installed.
 # usage: tests/languages.sh [rust|go|csharp]...
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
@@ -25,8 +25,9 @@ get_rust() { need rustc rustc && "$top/tools/install-packages.sh" bindgen libcla
 build_rust() {
   local clang
   rustc --edition 2021 -D warnings -L "$build/prefix/lib" "$examples/rust/main.rs" -o program
-  # The compiler compares the declarations with those that clang reads in the C header. Of several
-  # versions of libclang, bindgen would take the newest, which may be too new for it.
+  # The compiler compares types, but no names and not which object a handle stands for, with those
+  # that clang reads in the C header. Of several versions of libclang, bindgen would take the
+  # newest, which may be too new for it.
   clang=$(dpkg-query -W -f '${Depends}' libclang-dev | grep -oE '[0-9]+' | head -n 1)
   LIBCLANG_PATH=/usr/lib/llvm-$clang/lib bindgen -o header.rs \
     "$top/include/ZRString/ZRStringHandles.h" -- -I "$top/include"

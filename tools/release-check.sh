@@ -11,7 +11,7 @@ usage: tools/release-check.sh [-n] [PART...]
 
 Tries the PARTs that are named, or all of them, and goes on after a failure. Prints a table of what
 was tried on which system, and a verdict, which is the exit status, too. The output of a part is in
-build/release-check/PART.log. -n only prints the commands.
+build/release-check/PART.log. -n only prints what would run.
   version       commit, changelog and what is written from the headers: all of this version
   tests         ./run-tests on this machine
   compatibility names, types and tests of 1.0.0
@@ -21,7 +21,6 @@ build/release-check/PART.log. -n only prints the commands.
   aarch64, s390x, i386   the tests on these processors
   win32, win64           the tests and packages for Windows, under Wine; as root
   bookworm, trixie       the README's commands and the packages on a bare Debian; as root
-Everything takes 40 minutes on two cores, and half an hour more when ICU for Windows must be built.
 USAGE
 }
 

@@ -83,8 +83,8 @@ HEADER_BEGIN = """\
 
 /// @file
 /// The functions of the handle interface as static members of three classes. ZRStringHandles.h
-/// says what each does and returns. The classes have no data, and no objects of them are made; DK
-/// and CDK are part of their published names.
+/// says what each does and returns. The classes have no data; DK and CDK are part of their
+/// published names.
 
 // Written by tools/write-derived.py: edit ZRStringHandles.h and run that.
 """

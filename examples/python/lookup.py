@@ -2,9 +2,9 @@
 
     lookup.py [--windows-1252] FILE WORD
 
-The list is sorted in the linguistic order of the default locale, and entries that equal an earlier
-one without regard to case are dropped. Prints the number of the entry that the word is or would be,
-counted from 1. Exits with status 2 if the list cannot be read.
+The list is sorted in the linguistic order of the default locale; then entries that equal an earlier
+one without regard to case are dropped. Prints the number of the entry that the word
+then is or would be, counted from 1. Exits with status 2 if the list cannot be read.
 """
 
 import bisect

@@ -19,8 +19,7 @@ class ZRStringMutator;
 /// The number of strings that hold a body: the first part of every body, and all of it that
 /// programs see.
 ///
-/// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it. Nothing checks
-/// that it stays below 2^31.
+/// A plain integer, 1 for a new body. Only TakeShare() and GiveUpShare() change it.
 /// @code
 /// ZRStringHolderCount count;
 /// assert(count.TakeShare() == &count && count.IsShared());

@@ -28,7 +28,7 @@
 ///    other strings.
 /// 7. **Exceptions.** Exceptions, `std::bad_alloc` included, propagate to the caller, and no
 ///    out-parameter is written; only the functions that create arrays return a status instead. A
-///    create function, and an edit that first has to copy a text, also throw if ICU runs out of
+///    create function, and the copy of a shared text before an edit, also throw if ICU runs out of
 ///    memory. An edit that ICU cannot complete otherwise loses the text, whose length is then 0
 ///    (see ICU's error state in ZRStringMutator).
 /// 8. **Threads.** There is no locking: an array, or strings that share text, may be used by only
@@ -372,8 +372,8 @@ ZR_API ZRLong ZR_CALL ZRMutableStringToUpper(ZRMutableStringRef__* string);
 /// @return 0; 4 string is null.
 ZR_API ZRLong ZR_CALL ZRMutableStringToLower(ZRMutableStringRef__* string);
 
-/// Opens the string's own storage for writing, with room for at least `minCapacity` units (-1: the
-/// capacity, of which a string that shared its text may lose some). `*buffer` becomes null if the
+/// Opens the string's own storage for writing, with room for at least `minCapacity` units (-1: what
+/// there is). `*buffer` becomes null if the
 /// buffer cannot be opened.
 ///
 /// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, do
@@ -464,7 +464,7 @@ ZR_API ZRLong ZR_CALL ZRStringPtrArrayIsEmpty(ZRStringPtrArrayRef__* array, unsi
 
 /// Gets the entry at `index` or, if `index` is outside the array, the last entry.
 ///
-/// Calls ZRStringPtrArray::operator[]. An entry is null only if the class interface made it so.
+/// Calls ZRStringPtrArray::operator[].
 /// @return 0; 4 array is null; 6 string is null; 12 the array is empty.
 ZR_API ZRLong ZR_CALL GetZRStringRefAt(ZRStringPtrArrayRef__* array, ZRLong index,
                                        ZRStringRef__** string);

@@ -12,7 +12,7 @@ enum ZRStringNormalizationMode : int {
   kZRNormalizationNFKC = 3,  ///< compatibility composition
   kZRNormalizationNFD = 4,   ///< canonical decomposition
   kZRNormalizationNFKD = 5,  ///< compatibility decomposition
-  kZRNormalizationFCD = 6    ///< fast C or D: not a form of its own, but fit for comparing
+  kZRNormalizationFCD = 6    ///< fast C or D: not a form of its own, but fit for collating
 };
 
 /// An editable string: a ZRString that gets a body of its own before it changes text.
@@ -45,7 +45,7 @@ enum ZRStringNormalizationMode : int {
 /// string's own units, throw `std::bad_alloc` and leave this string and every operand as they were.
 /// If ICU runs out of memory inside an edit, except Normalize(), or the text would grow past what
 /// ICU can hold, this string's text is lost and in ICU's error state. Its length is then 0 and its
-/// buffer null. Among strings it equals only one in the same state (collated, any empty one), and
+/// buffer null. Such a string equals only strings in the same state; collated, also empty ones. It
 /// ignores edits until SetTo() gives it a new text, Truncate(0) or Remove(0, INT32_MAX) empties
 /// it, or another string is assigned. The first ToUpper() or ToLower() may crash instead.
 ///

@@ -19,8 +19,9 @@
 /// it uses one. Inserting strings works without that, but `fill()`, `std::setfill` and `std::endl`
 /// do not: they call the specialization below, and one file that does not include it can replace it
 /// in the whole program by the standard library's version, which throws `std::bad_cast`. Numbers
-/// and single characters cannot be inserted in any case: there is no facet that formats numbers for
-/// this type, and a unit is a number.
+/// and single characters cannot be inserted: there is no facet that formats numbers for this type,
+/// and a unit is a number. A text of `const unsigned short*` can be inserted into a
+/// `std::basic_ostream<unsigned short>&`; into a string stream it is ambiguous.
 /// @code
 /// std::basic_ostringstream<unsigned short> out;
 /// out.width(4);
@@ -32,9 +33,7 @@
 ///
 /// Streams widen through the locale's `std::ctype` facet, which libstdc++ does not provide for
 /// `unsigned short`. This is a specialization of a standard class's member for a fundamental type,
-/// which the C++ standard does not allow and libstdc++ accepts. A facet of our own would
-/// need no such liberty, but every stream's locale would have to be given it, also after the host
-/// has changed the global locale.
+/// which the C++ standard does not allow and libstdc++ accepts.
 template <>
 inline unsigned short std::basic_ios<unsigned short>::widen(char character) const {
   return static_cast<unsigned char>(character);
@@ -58,9 +57,9 @@ operator<<(std::basic_ostringstream<unsigned short>& stream, const ZRString& str
 /// Inserts a zero-terminated 8-bit text, decoded from the code page windows-1252. A null `text` is
 /// an empty text.
 ///
-/// Manipulators return the stream as a `std::basic_ostream`, whose own operator widens each byte:
-/// `o << "\x80"` inserts U+20AC, but `o << std::setw(4) << "\x80"` inserts U+0080. In a namespace
-/// that has an operator<< of its own, which hides this one, both insert U+0080.
+/// `o << "\x80"` inserts U+20AC. The standard operator, which widens the byte to U+0080, is taken
+/// after a manipulator (`o << std::setw(4) << "\x80"`), for a temporary stream, and in a namespace
+/// that has an operator<< of its own, which hides this one.
 /// @return `stream`, as a string stream
 ZR_API std::basic_ostringstream<unsigned short>& ZR_CALL
 operator<<(std::basic_ostringstream<unsigned short>& stream, const char* text);

@@ -49,8 +49,7 @@ def _integers(cut: slice) -> slice:
 
 def _reserve(entries: int) -> None:
     """As for strings: the library could not report that it has no memory for so many entries. An
-    array that grows needs storage of up to twice its size, beside the smaller ones that it freed,
-    which may be as large all together."""
+    array that grows takes up to five pointers for each, those it has freed included."""
     if entries > 2**12:
         bytearray(5 * ctypes.sizeof(ctypes.c_void_p) * entries)
 

@@ -24,7 +24,7 @@ else:
 MAX_LENGTH = 0x7FFFFFF5  # of a text, in units: the longest that the library creates
 _SMALL = 2**14  # units. Up to here, free memory is not checked beforehand.
 
-# What `options` of BaseString.icompare() may be.
+# The named `options` of BaseString.icompare().
 IGNORE_CASE, IGNORE_CASE_TURKIC, IGNORE_CASE_CODE_POINT_ORDER, COLLATED = range(4)
 
 
@@ -709,7 +709,7 @@ class MutableString(BaseString):
         return self.set(self * times)
 
     def insert(self: _M, index: int, text: AnyString) -> _M:
-        """Inserts a text before the unit at `index`."""
+        """Inserts a text before the unit at `index`, which is clamped as in a list."""
         operand = _operand(text, "text")
         length = len(self)
         place = slice(_integer(index, "index"), None).indices(length)[0]

@@ -74,7 +74,7 @@ def _within(value: Any, least: int, most: int) -> int:
 
 
 class Long(ctypes.c_int32):
-    """A ZRLong: 32 bits."""
+    """A ZRLong: 32 bits. Passed by its `value`, or as an int."""
 
     @classmethod
     def from_param(cls, value: Any) -> Any:
@@ -204,6 +204,8 @@ class Function:
             raise ValueError(f"{self.name}: {name}: {error}") from None
         if self._destroys and hasattr(converted, "__del__"):
             raise ValueError(f"{self.name}: {name} is a handle that a Python object owns")
+        if self._destroys and converted is not None and not hasattr(type(converted), "contents"):
+            raise TypeError(f"{self.name}: {name} must be a handle, which is set to null")
         return converted
 
     def __call__(self, *arguments: Any) -> int:

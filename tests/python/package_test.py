@@ -36,6 +36,8 @@ CALLS = {
     "m.pad_leading(2**31)": "OverflowError: a text of 2147483648 code units is too long",
     "m.from_handle(handles.MutableStringRef())": "ValueError: handle is null",
     "handles.ZRStringDestroy(s)": REFUSED,
+    "handles.ZRStringDestroy(mutable.contents)": "TypeError: ZRStringDestroy: string must be a "
+    "handle, which is set to null",
     "handles.ZRStringGetLength.result(m), handles.ZRMutableStringTrim(s)": "TypeError: "
     "ZRMutableStringTrim: string: expected MutableStringRef instance instead of _OwnedString",
     "handles.InsertZRStringRefAt.result(a, 0, None)": "InvalidArgument: " + INSERT,

@@ -1,5 +1,5 @@
 // Lets all DLLs use this program's operator new and delete. They import the C++ library's: a jump
-// to this program's replaces the first instructions of the two that all its other forms call.
+// to this program's replaces the first instructions of the two that its other forms call.
 #include <windows.h>
 
 #include <cstring>

@@ -7,11 +7,10 @@ build tree, use `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fie
     "text" (length 4, holders 1)        the text is cut at `set print elements`
 
 The printers read memory by its layout and need only the program's own debug information, not that
-of ICU or of this library. Without the latter, the string classes are incomplete types to GDB, and
-GDB 13 shows <incomplete type> in `info locals` and for arguments passed by value; `print` and
-references show the text. GDB 16 always shows the text. So does GDB 13 if the library's debug
-information is installed (package libzrstring1-dbgsym), or if the program was compiled with
--femit-class-debug-always (GCC) or -fstandalone-debug (Clang).
+of ICU or of this library. Without the latter, the string classes are incomplete types to GDB. It
+then shows no strings in C++ arrays and vectors, and GDB 13 shows <incomplete type> for members, for
+arguments passed by value and in `info locals`. All are shown if the library's debug information is
+installed (package libzrstring1-dbgsym).
 """
 
 import gdb
