@@ -373,8 +373,7 @@ ZR_API ZRLong ZR_CALL ZRMutableStringToUpper(ZRMutableStringRef__* string);
 ZR_API ZRLong ZR_CALL ZRMutableStringToLower(ZRMutableStringRef__* string);
 
 /// Opens the string's own storage for writing, with room for at least `minCapacity` units (-1: what
-/// there is). `*buffer` becomes null if the
-/// buffer cannot be opened.
+/// there is). `*buffer` becomes null if the buffer cannot be opened.
 ///
 /// Calls ZRStringMutator::GetBuffer. Before ZRMutableStringReleaseBuffer() closes the buffer, do
 /// nothing with the string but ask for its capacity; do not even copy it: a copy would share what
