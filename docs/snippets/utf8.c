@@ -6,7 +6,7 @@
 
 int main(void) {
   //! [c]
-  ZRMutableStringRef__* greeting;
+  ZRMutableStringRef__* greeting = NULL;
   char text[8];
   size_t size = 0;
   ZRLong status =
@@ -24,7 +24,7 @@ int main(void) {
   if (status == 0)
     printf("%s (%d of %d bytes)\n", text, (int)strlen(text),
            (int)size);
-  //! [c]
   ZRMutableStringDestroy(greeting);
+  //! [c]
   return (int)status;
 }

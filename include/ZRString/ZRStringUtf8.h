@@ -190,8 +190,8 @@ ZR_UTF8_INLINE uint32_t ZRUtf8CodePoint(const unsigned char** next, const unsign
 
 /// Writes the characters that begin before `limit` as UTF-16 and returns the number of units: at
 /// most one per byte, and one more if `limit` splits a character. Units behind them, up to one per
-/// byte, may be overwritten. Moves `*next` behind the last byte read; none is read at or past
-/// `end`.
+/// byte, may be overwritten. Moves `*next` behind the last byte converted; none is read at or
+/// past `end`.
 ZR_UTF8_INLINE size_t ZRUtf8Decode(const unsigned char** next, const unsigned char* limit,
                                    const unsigned char* end, ZRUtf8Unit* units) {
   const unsigned char* from = *next;
