@@ -1,4 +1,4 @@
-// Prints what the page on the C++ standard library shows.
+// Prints what the page on conversions shows for C++.
 
 #include <ZRString/ZRStringInterop.h>
 

@@ -50,9 +50,9 @@
 /// state, reads as empty, except where a comment says otherwise.
 ///
 /// **Errors.** A text of 2^31 or more units throws `std::length_error` where it is converted,
-/// counted or looked for. UTF-8 may have any number of bytes. If memory runs out, or what a
-/// function makes is too long, it throws `std::bad_alloc` or `std::length_error`; but the first
-/// UpperCase() or LowerCase() may crash instead. The header does not compile without exceptions.
+/// counted or looked for. A function that gets no memory, or would make too long a text, throws
+/// `std::bad_alloc` or `std::length_error`; but the first UpperCase() or LowerCase() may crash
+/// instead. The header does not compile without exceptions.
 ///
 /// **Aliasing.** `unsigned short`, the library's code unit, and `char16_t` are different types, so
 /// a compiler may assume that pointers to them never point to the same memory. ICU stores the units
@@ -285,8 +285,9 @@ struct ZRStringLess {
 /// @name Operators
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
 /// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy; `+=` itself
-/// takes no views: `text += u"x"_zr`. In both, a text in ICU's error state counts as empty,
-/// except in a mutator plus a string and in sums with a character, which ZRStringMutator.h has.
+/// takes no views: `text += u"x"_zr`. In these comparisons and sums, a text in ICU's error state
+/// counts as empty, except in a mutator plus a string and in sums with a character, which
+/// ZRStringMutator.h has.
 /// @code
 /// const ZRString name = u"un"_zr + u", deux";
 /// assert(name == u"un, deux" && name < u"une");
