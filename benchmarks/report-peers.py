@@ -117,6 +117,8 @@ def picture(rows):
 
 
 def main():
+    if len(sys.argv) != 2:
+        sys.exit("usage: report-peers.py RUN.json")
     run = json.loads(pathlib.Path(sys.argv[1]).read_text(encoding="utf-8"))
     rows = least_times(run)
     PICTURE.write_text(picture(rows), encoding="utf-8")

@@ -27,6 +27,9 @@ def snippet(name, part):
 
 
 def main():
+    check = sys.argv[1:] == ["--check"]
+    if sys.argv[1:] and not check:
+        sys.exit(__doc__)
     stale = []
     for page in sorted(DOCS.glob("*.md")):
         old = page.read_text("utf-8")
@@ -35,9 +38,9 @@ def main():
             sys.exit(f"{page}: a snippet's comment is not followed by a block of code")
         if new != old:
             stale.append(page.name)
-            if sys.argv[1:] != ["--check"]:
+            if not check:
                 page.write_text(new, "utf-8")
-    if stale and sys.argv[1:] == ["--check"]:
+    if stale and check:
         sys.exit(f"not as docs/write-snippets.py writes them: {', '.join(stale)}")
 
 

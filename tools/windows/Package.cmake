@@ -6,11 +6,9 @@ math(EXPR bits "${CMAKE_SIZEOF_VOID_P} * 8")
 if(bits EQUAL 32)
   set(gcc_unwinder libgcc_s_dw2-1.dll)
   set(dlltool_machine i386)
-  set(goarch 386)
 else()
   set(gcc_unwinder libgcc_s_seh-1.dll)
   set(dlltool_machine i386:x86-64)
-  set(goarch amd64)
 endif()
 
 # ICU under the names by which it is loaded, and GCC's runtime: an exception passes from one module
