@@ -47,6 +47,8 @@ def blocks(text):
 
 
 def main():
+    if len(sys.argv) < 2:
+        sys.exit(__doc__)
     page, program = pathlib.Path(sys.argv[1]), sys.argv[2:]
     text = page.read_text("utf-8")
     faults = [f"{page} names {name}, which does not exist" for name in missing_names(page, text)]

@@ -3,7 +3,7 @@
 # machine's apt configuration stays as it is.
 # usage: fetch-source.sh PACKAGE VERSION FOLDER
 set -euo pipefail
-package=$1 version=$2 folder=$3
+package=$1 version=$2 folder=$(realpath -m "$3")
 
 parts=$(mktemp -d)
 trap 'rm -rf "$parts"' EXIT
