@@ -205,7 +205,7 @@ class Function:
         if self._destroys and hasattr(converted, "__del__"):
             raise ValueError(f"{self.name}: {name} is a handle that a Python object owns")
         if self._destroys and converted is not None and not hasattr(type(converted), "contents"):
-            raise TypeError(f"{self.name}: {name} must be a handle, which is set to null")
+            raise TypeError(f"{self.name}: {name} must be a handle")
         return converted
 
     def __call__(self, *arguments: Any) -> int:

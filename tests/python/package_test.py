@@ -37,7 +37,7 @@ CALLS = {
     "m.from_handle(handles.MutableStringRef())": "ValueError: handle is null",
     "handles.ZRStringDestroy(s)": REFUSED,
     "handles.ZRStringDestroy(mutable.contents)": "TypeError: ZRStringDestroy: string must be a "
-    "handle, which is set to null",
+    "handle",
     "handles.ZRStringGetLength.result(m), handles.ZRMutableStringTrim(s)": "TypeError: "
     "ZRMutableStringTrim: string: expected MutableStringRef instance instead of _OwnedString",
     "handles.InsertZRStringRefAt.result(a, 0, None)": "InvalidArgument: " + INSERT,
