@@ -6,6 +6,8 @@
 set -eu
 cd "$(dirname "$0")/.."
 
+[ $# -eq 0 ] || [ "$*" = --record ] ||
+  { echo "usage: benchmarks/count-instructions.sh [--record]" >&2; exit 2; }
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 quietly() {

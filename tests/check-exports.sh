@@ -8,6 +8,8 @@ set -euo pipefail
 export LC_ALL=C
 here=$(dirname "$0")
 
+[[ -f ${1-} && ${2---update} = --update && $# -le 2 ]] ||
+  { echo "usage: tests/check-exports.sh LIBRARY [--update]" >&2; exit 2; }
 long=long unpromised='^$' unversioned='^$'
 if [ "$(head -c 2 "$1")" = MZ ]; then
   exported=$(objdump -p "$1" | sed -n '/Name Pointer\] Table/,/^$/s/^\t\[.* //p')

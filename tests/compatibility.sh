@@ -5,6 +5,7 @@
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 . "$top/tools/steps.inc.sh"
+[ $# -eq 0 ] || die "there are no options"
 work=$top/build/compatibility
 old=$work/1.0.0 new=$work/today
 

@@ -4,6 +4,7 @@
 # usage: install-packages.sh PACKAGE...
 set -euo pipefail
 
+[[ ${1:--} != -* ]] || { echo "usage: tools/install-packages.sh PACKAGE..." >&2; exit 2; }
 missing=()
 for package in "$@"; do
   status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2> /dev/null || true)

@@ -4,6 +4,7 @@
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
 . "$top/tools/steps.inc.sh"
+[ $# -eq 0 ] || die "there are no options"
 out=$top/build/packages
 
 "$top/tools/install-packages.sh" build-essential cmake debhelper dh-python libicu-dev python3
