@@ -1,7 +1,8 @@
 #!/bin/sh
 # Counts the instructions of each member and handle function beyond those of the ICU call it maps
-# to. Fails when a call passes its limit in instructions.txt, or its record there by more than 2,
-# and when an exported function is neither counted nor in not-counted.txt.
+# to. Fails when a call passes its limit in instructions.txt, or its record there by more than 2, if
+# the compiler and ICU are those of the table; and when an exported function is neither counted nor
+# in not-counted.txt.
 # usage: count-instructions.sh [--record]      --record writes the numbers into instructions.txt
 set -eu
 cd "$(dirname "$0")/.."

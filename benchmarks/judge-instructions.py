@@ -64,7 +64,7 @@ def judge(lines, counted, recording):
 
 
 def main():
-    *options, system, folder = sys.argv[1:]
+    *options, system, folder = sys.argv[1:] if len(sys.argv) > 2 else (None, "", "")
     recording = options == ["--record"]
     if options and not recording:
         sys.exit(__doc__)

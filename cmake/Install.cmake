@@ -61,20 +61,25 @@ else()
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)
+  if(MINGW AND CMAKE_CROSSCOMPILING)
+    include(tools/windows/Package.cmake)
+  endif()
   # CMake's manifest lists only the last installation, and no DESTDIR.
   install(CODE "set(record \"${PROJECT_BINARY_DIR}/installed.txt\")" ALL_COMPONENTS)
   install(CODE [[
-    foreach(file IN LISTS CMAKE_INSTALL_MANIFEST_FILES)
-      get_filename_component(file "$ENV{DESTDIR}${file}" ABSOLUTE)
-      file(APPEND "${record}" "${file}\n")
-    endforeach()
+    if("$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}" MATCHES "[][;]")
+      message(WARNING "Uninstalling will leave these files: CMake's lists cannot hold a path "
+        "with a bracket or a semicolon.")
+    else()
+      foreach(file IN LISTS CMAKE_INSTALL_MANIFEST_FILES)
+        get_filename_component(file "$ENV{DESTDIR}${file}" ABSOLUTE)
+        file(APPEND "${record}" "${file}\n")
+      endforeach()
+    endif()
   ]] ALL_COMPONENTS)
   add_custom_target(uninstall
     COMMAND ${CMAKE_COMMAND} -P ${PROJECT_SOURCE_DIR}/cmake/Uninstall.cmake
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
     COMMENT "Removing what was installed from this build folder"
     VERBATIM)
-  if(MINGW AND CMAKE_CROSSCOMPILING)
-    include(tools/windows/Package.cmake)
-  endif()
 endif()

@@ -1,6 +1,6 @@
-# Run in a build folder: removes the files that were installed from it, wherever, and the folders
-# that only ZRString uses if they are then empty: its own, and those below GDB's auto-load
-# directory, which repeat the prefix. The list of files stays until all are removed.
+# Run in a build folder: removes the files that installations from it recorded, and the folders that
+# only ZRString uses if they are then empty: its own, and those below GDB's auto-load directory,
+# which repeat the prefix. The list of files stays until all are removed.
 if(EXISTS installed.txt)
   file(STRINGS installed.txt files)
 endif()

@@ -47,7 +47,7 @@ def blocks(text):
 
 
 def main():
-    if len(sys.argv) < 2:
+    if sys.argv[1:2] in ([], ["-h"], ["--help"]):
         sys.exit(__doc__)
     page, program = pathlib.Path(sys.argv[1]), sys.argv[2:]
     text = page.read_text("utf-8")

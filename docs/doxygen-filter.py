@@ -67,6 +67,8 @@ def page(text, name):
 
 
 def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
     path = pathlib.Path(sys.argv[1])
     text = path.read_text("utf-8")
     text = header(text) if path.suffix == ".h" else page(text, path.stem)

@@ -31,10 +31,10 @@ def key(text):
     return re.sub(r"[^a-z0-9\u0080-\uffff]", lambda m: f"_{ord(m[0]):02x}", text.lower())
 
 
-def keys(text):
-    """One for each word: the text from there on."""
+def keys(text, skipped=frozenset()):
+    """One for each word that is not skipped: the text from there on."""
     starts = [(match.start(), match[0]) for match in WORD.finditer(text)]
-    return {key(text[start:]) for start, word in starts if word.lower() not in COMMON}
+    return {key(text[start:]) for start, word in starts if word.lower() not in skipped}
 
 
 def plain(markup):
@@ -74,6 +74,8 @@ def mend_side_bar(folder):
 
 
 def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
     folder = pathlib.Path(sys.argv[1])
     mend_side_bar(folder)
     search = folder / "search"
@@ -97,7 +99,7 @@ def main():
         for name, title, target in places(page):
             shown = [html.escape(text).replace("'", "&#39;") for text in (name, title)]
             result = f"'{shown[0]}',['../{target}',1,'{shown[1]}']"
-            add(keys(name), result)
+            add(keys(name, COMMON), result)
 
     files = {}
     for new, result in sorted((new, result) for (new, _), result in entries.items()):

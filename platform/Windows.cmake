@@ -1,9 +1,9 @@
 # What the DLL needs.
 configure_file(platform/Windows.rc.in Windows.rc @ONLY)
 target_sources(ZRString PRIVATE platform/Windows.cpp ${PROJECT_BINARY_DIR}/Windows.rc)
-# The DLL is called ZRString.dll with every toolchain. So that it exports only what the headers
-# mark, std::type_info must be declared before the first exported class: otherwise GCC 12 exports
-# the type information of every class, those of the standard library included.
+# The DLL is called ZRString.dll with every toolchain. std::type_info must be
+# declared before the first exported class: otherwise GCC 12 exports the type information of every
+# class, those of the standard library included.
 set_target_properties(ZRString PROPERTIES PREFIX "")
 target_compile_options(ZRString PRIVATE
   "$<$<CXX_COMPILER_ID:GNU>:SHELL:-include typeinfo>")

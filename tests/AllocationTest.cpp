@@ -52,7 +52,7 @@ TEST_F(Allocation, FailureChangesNothingOrIsInTheErrorState) {
 TEST_F(Allocation, ABodyIsOneAndACopyNone) {
   operator delete(operator new(1, std::nothrow));
   operator delete[](operator new[](1, std::nothrow));
-  EXPECT_EQ(Allocations(), 2) << "std::stable_sort uses these forms";
+  EXPECT_EQ(Allocations(), 2) << "libraries use these forms";
   const ZRString string(Raw(u"abc")), longer(Raw(u"more units than a body has room for"));
   EXPECT_EQ(Allocations(), 3);
   const ZRString copy(string), whole(string, 0, 3), handled(string.GetZRStringRef());

@@ -104,8 +104,8 @@ TEST(FastPath, EveryPairOfStrangeLetters) {
         }
 }
 
-// Of two letters each, so that unpaired surrogates stand beside letters that fold and against pairs
-// that fold. ICU 72's caseCompare() does not order all of these by what they fold to.
+// Of up to two letters each, so that unpaired surrogates stand beside letters that fold and against
+// pairs that fold. ICU 72's caseCompare() does not order all of these by what they fold to.
 TEST(FastPath, IllFormedTextsAreOrderedByWhatTheyFoldTo) {
   const Text letters = u"\xD801\xDC00\xDC28\xD802\x61\x41\uFF21\uFF41\u0130\u00DF";
   std::vector<Text> texts = {u""};

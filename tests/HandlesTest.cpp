@@ -1,5 +1,5 @@
 // The status of every invalid parameter of every handle function, and calls of overridden virtual
-// members.
+// members. Operations.cpp has the indexes that are outside an array.
 #include <ZRString/ZRStringInterfaces.h>
 #include <ZRString/ZRStringMutator.h>
 #include <ZRString/ZRStringOutput.h>

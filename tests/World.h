@@ -70,7 +70,7 @@ struct Case {
 enum Kind {
   kQuery,    // changes no string, perhaps the array
   kEdit,     // changes the target, a mutator; if ICU fails, its text is in the error state
-  kAttempt,  // as kEdit, but if the text stays the same or ICU fails, returns 0 and changes nothing
+  kAttempt,  // as kEdit, but the same text keeps its body; 0 if ICU fails, with nothing changed
   kMake,     // replaces the target by a new string, a mutator by a mutator
   kSum,      // as kMake for a mutator, by members that edit a copy or by a create function
 };
@@ -100,7 +100,7 @@ const std::vector<Operation>& Operations();
 
 constexpr long long kNone = 12;  // the result of a call that finds no entry
 
-/// The last call, which a crash prints. A sanitizer has better handlers of its own.
+/// The last call, which a crash prints. GCC's address sanitizer has better handlers.
 inline const char* running = "";
 #ifndef __SANITIZE_ADDRESS__
 inline void PrintRunning(int signal) {

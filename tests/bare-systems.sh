@@ -6,8 +6,10 @@
 # usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]
 # shellcheck disable=SC2016 # what the shells in there expand
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 . "$top/tools/steps.inc.sh"
+[[ "${1:-trixie} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] ||
+  die "usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]"
 . "$top/tools/bare-debian.inc.sh"
 . "$top/tests/pages.inc.sh"
 
@@ -98,8 +100,6 @@ check_run() {
   done
 }
 
-[[ "${1:-trixie} ${2:-run}" =~ ^(bookworm|trixie)\ (install|packages|run)$ ]] ||
-  die "usage: tests/bare-systems.sh [bookworm|trixie [install|packages|run]]"
 for codename in ${1:-bookworm trixie}; do
   bare=$work/$codename logs=$top/build/bare-systems/$codename
   logged "$logs/make.log" make_debian "$codename" "$bare"

@@ -5,7 +5,7 @@
 # packages that are missing; skips a language whose compiler cannot be installed.
 # usage: tests/languages.sh [rust|go|csharp]...
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 . "$top/tools/steps.inc.sh"
 build=$top/build/languages
 examples=$top/examples/languages
@@ -50,7 +50,9 @@ build_csharp() {
   mono calls.exe "$top/tests/HandleRows.inc"
 }
 
-[[ " $* " =~ ^(\ (rust|go|csharp))*\ *$ ]] || die "the languages are rust, go and csharp"
+for language; do
+  [[ $language =~ ^(rust|go|csharp)$ ]] || die "the languages are rust, go and csharp"
+done
 "$top/tools/install-packages.sh" cmake g++ libicu-dev make pkg-config python3
 say "building the library"
 logged "$build/library.log" install_library
@@ -64,7 +66,7 @@ for language; do
   cd "$build/$language"
   logged "$build/$language.log" "build_$language"
   "$top/docs/check-page.py" "$top/docs/languages.md" \
-    env ALIVE=alive LD_PRELOAD="$build/alive.so" ./program
+    env ALIVE=alive LD_PRELOAD=../alive.so ./program
   counts=$(od -An -td4 alive)
   [[ $counts =~ ^\ *[1-9][0-9]*\ +0$ ]] || die "objects that were created, and left alive: $counts"
 done

@@ -5,7 +5,7 @@
 # other processors are unpacked below build/, not installed.
 # usage: tests/processors.sh [aarch64|s390x|i386]
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 . "$top/tools/steps.inc.sh"
 
 build() {

@@ -4,7 +4,7 @@
 # that are missing. Takes a minute; the first time, those for Windows take half an hour more.
 # usage: tests/same-packages.sh [debian|windows|python]...
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 . "$top/tools/steps.inc.sh"
 cd "$top"  # the names of the packages are patterns
 
@@ -23,8 +23,9 @@ declare -A packages=(
   [windows]="build/windows-{i686/zrstring-$version-win32,x86_64/zrstring-$version-win64}.zip"
   [python]="build/python/zrstring-$version{-py3-none-any.whl,.tar.gz}")
 
-[[ " $* " =~ ^(\ (debian|windows|python))*\ *$ ]] ||
-  die "the packages are debian, windows and python"
+for kind; do
+  [[ $kind =~ ^(debian|windows|python)$ ]] || die "the packages are debian, windows and python"
+done
 "$top/tools/install-packages.sh" faketime
 copy=$(mktemp -d "${TMPDIR:-/var/tmp}/zrstring.XXXXXX")
 trap 'rm -rf "$copy"' EXIT

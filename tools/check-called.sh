@@ -4,11 +4,12 @@
 # usage: check-called.sh LIBRARY OBJECT PATTERNS
 set -euo pipefail
 export LC_ALL=C
+[ $# -eq 3 ] || { echo "usage: check-called.sh LIBRARY OBJECT PATTERNS" >&2; exit 2; }
 
 missing=$(comm -23 \
   <(nm -D --defined-only "$1" | awk '$2 ~ /^[TW]$/ { sub("@.*", "", $3); print $3 }' | sort -u) \
   <(nm --undefined-only "$2" | awk '{ print $2 }' | sort -u) | c++filt)
-patterns=$(grep -v '^#' "$3")
+patterns=$(grep -v '^#' "$3") || { echo "$3 has no pattern" >&2; exit 1; }
 while read -r pattern; do
   grep -qE -- "$pattern" <<<"$missing" ||
     { echo "$3: the pattern '$pattern' matches nothing and can go" >&2; failed=1; }

@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are named and missing. Prints nothing if none is missing. Waits
-# up to ten minutes while another apt is at work.
+# while another apt is at work, but not for ever.
 # usage: install-packages.sh PACKAGE...
 set -euo pipefail
 
 [[ ${1:--} != -* ]] || { echo "usage: tools/install-packages.sh PACKAGE..." >&2; exit 2; }
 missing=()
 for package in "$@"; do
-  status=$(dpkg-query -W -f '${db:Status-Status}' "$package" 2> /dev/null || true)
-  [ "$status" = installed ] || missing+=("$package")
+  # A word for each architecture.
+  status=$(dpkg-query -W -f '${db:Status-Status} ' "$package" 2> /dev/null || true)
+  [[ " $status" == *' installed '* ]] || missing+=("$package")
 done
 [ "${#missing[@]}" -gt 0 ] || exit 0
 

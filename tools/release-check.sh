@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Tries what a release needs, on every system that the platforms page names.
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/..")
 . "$top/tools/steps.inc.sh"
 cd "$top"
 
@@ -103,8 +103,7 @@ wanted=${*:-$parts}
 for part in $wanted; do
   [[ " $parts " == *" $part "* ]] || { usage >&2; exit 2; }
 done
-mkdir -p "$out"
-"$dry_run" || : > "$rows"
+"$dry_run" || { mkdir -p "$out" && : > "$rows"; }
 
 one_process='the tests that run in one process'
 windows='the tests and the package'

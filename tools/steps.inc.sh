@@ -18,7 +18,7 @@ check_build_folder() {
     die "$1 was made when the sources were in $sources. Remove it: rm -r '$1'"
 }
 
-# copy_project FOLDER: the project's sources, as they are now, without what was built from them. The
+# copy_project FOLDER: the project's sources, as they are now, without build/ and .git/. The
 # project's folder is in $top.
 copy_project() {
   mkdir -p "$1"

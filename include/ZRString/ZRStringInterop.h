@@ -286,8 +286,8 @@ struct ZRStringLess {
 /// In the comparisons, one operand is a ZRString and the other converts to `std::u16string_view`:
 /// `string == u"x"`. They compare code units. A sum is what `+=` would make of a copy; `+=` itself
 /// takes no views: `text += u"x"_zr`. In these comparisons and sums, a text in ICU's error state
-/// counts as empty, except in a mutator plus a string and in sums with a character, which
-/// ZRStringMutator.h has.
+/// counts as empty. A mutator plus a string, and sums with a character, are not these but those of
+/// ZRStringMutator.h.
 /// @code
 /// const ZRString name = u"un"_zr + u", deux";
 /// assert(name == u"un, deux" && name < u"une");

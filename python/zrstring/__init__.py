@@ -11,9 +11,9 @@ strings. What they can do, they do as str and list. Most methods say where they 
 indices and lengths count UTF-16 code units, of which a character above U+FFFF has two, and an empty
 text is found nowhere. Wherever a string is expected, a str will do.
 
-An argument of a wrong type raises TypeError, a wrong value ValueError or IndexError, a text that is
-too long OverflowError. Use zrstring where text comes from C or C++ or goes there: within Python,
-str is faster.
+An argument of a wrong type raises TypeError, a wrong value ValueError or IndexError, a text that
+might get too long OverflowError. Use zrstring where text comes from C or C++ or goes there: within
+Python, str is faster.
 
 The module zrstring.handles has the functions of the C interface.
 """

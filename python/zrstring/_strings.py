@@ -114,7 +114,7 @@ def _reserve(length: int) -> None:
     """Raises an exception if there is no room for a text of `length` units and its copies. The
     library would throw a C++ exception, which nothing in Python can catch, or lose the text."""
     if length > MAX_LENGTH:
-        raise OverflowError(f"a text of {length} code units is too long")
+        raise OverflowError(f"a text of up to {length} code units is too long")
     if length > _SMALL:
         bytearray(6 * length)
 

@@ -17,8 +17,9 @@ exception for any other status.
 
 Arguments of a wrong type raise TypeError, numbers that do not fit ValueError. What C cannot check
 is not checked here either: memory must be as large as its ranges say, and a handle must not be
-used after its object is destroyed. A destroy function sets the handle that it gets to null, and
-refuses Python objects that own what they stand for, which are accepted as handles everywhere else.
+used after its object is destroyed. A destroy function sets the handle that it gets to null. These
+functions and ZRStringPtrArrayDeleteAll() refuse Python objects that own what they stand for, which
+are accepted as handles everywhere else.
 """
 
 import ctypes

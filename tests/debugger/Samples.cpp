@@ -7,7 +7,8 @@
 
 // A program for debuggers, with one string in each state that they must show. The test breaks at
 // Stop() and prints the locals of its caller. What it expects is the comment `//=` of each. There,
-// "ab"*3 is a text repeated, $name the display of another local, and ENTRY may have an address.
+// "ab"*3 is a text repeated, $name the display of another local, ADDRESS any address, and ENTRY
+// something before which one may stand.
 
 static void Stop([[maybe_unused]] const ZRString& reference) {}
 

@@ -5,10 +5,10 @@
 # compiles every public header alone. Makes the sources part of another project.
 # ctest sets BUILD, the build folder; CONFIG, its build type; LIBDIR, its folder of libraries below
 # the prefix; CMAKE, CC, CXX and CXXFLAGS.
-# shellcheck disable=SC2046,SC2206 # what is not quoted holds several options
+# shellcheck disable=SC2206 # CXXFLAGS is not quoted: it holds several options
 set -euo pipefail
 unset DESTDIR PKG_CONFIG_PATH LD_LIBRARY_PATH CPATH LIBRARY_PATH
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../..")
 tests=$top/tests/install work=$BUILD/tests/install/work
 installed=$work/installed prefix=$work/moved
 export PKG_CONFIG_LIBDIR=$prefix/$LIBDIR/pkgconfig
@@ -36,7 +36,7 @@ compile() {
   local compiler=("$CC")
   [[ $1 != c++* ]] || compiler=("$CXX" $CXXFLAGS)
   "${compiler[@]}" -std="$1" -x "${1%%[0-9]*}" -pedantic -Wall -Wextra -Werror \
-    $(pkg-config --cflags zrstring) "${@:2}"
+    "${cflags[@]}" "${@:2}"
 }
 
 rm -rf "$work"
@@ -46,6 +46,9 @@ say "the installed files"
 check_installed Runtime --component Runtime
 check_installed 'Runtime|Development'
 cp -a "$installed" "$prefix"
+# pkg-config quotes what it prints for a shell.
+cflags=() libs=()
+eval "cflags=($(pkg-config --cflags zrstring)) libs=($(pkg-config --libs zrstring))"
 DESTDIR=$work/stage logged "$work/install.log" "$CMAKE" --install "$BUILD" --prefix /usr
 # Other installations from this build folder stay, and so does the record of their files.
 sed -i -e "\|^$work/|w $work/installed.txt" -e "\|^$work/|d" "$BUILD/installed.txt"
@@ -78,7 +81,7 @@ awk '/\/ @name/ {bare = $0} /\/ @code/ {bare = ""} /\/ @\{/ && bare {print FILEN
 for source in readme.c readme.cpp road.c classes.cpp interop.cpp handles.c; do
   standard=c++17
   [[ $source != *.c ]] || standard='c99'
-  compile $standard "$work/$source" -o "$work/$source.out" $(pkg-config --libs zrstring)
+  compile $standard "$work/$source" -o "$work/$source.out" "${libs[@]}"
   check_program "$work/$source.out" "$work/${source%.*}.txt"
 done
 compile c99 -E -P - <<< $'#include <ZRString/ZRVersion.h>\nZR_VERSION_STRING' |

@@ -21,7 +21,7 @@ from zrstring import MutableString, String, StringArray, _arrays, _strings, hand
 
 PAGE = pathlib.Path(__file__).resolve().parents[2] / "docs/python.md"
 
-REFUSED = "ValueError: ZRStringDestroy: string is a handle that a Python object owns"
+REFUSED = "ValueError: ZRStringPtrArrayDeleteAll: array is a handle that a Python object owns"
 INSERT = "InsertZRStringRefAt: parameter 3 (string)"
 # What examples do not show: calls, and the errors or what the results equal. There is a String
 # s("abXßab"), a MutableString m(s), its handle, and a StringArray a([s]).
@@ -33,9 +33,10 @@ CALLS = {
     "s.icompare('a', -1)": "ValueError: options must be 0 to 2**32 - 1, not -1",
     "s + 1": "TypeError: unsupported operand type(s) for +: 'String' and 'int'",
     "m.pad_leading(9, 'xy')": "ValueError: unit must have one code unit, not 2",
-    "m.pad_leading(2**31)": "OverflowError: a text of 2147483648 code units is too long",
+    "m.pad_leading(2**31)": "OverflowError: a text of up to 2147483648 code units is too long",
     "m.from_handle(handles.MutableStringRef())": "ValueError: handle is null",
-    "handles.ZRStringDestroy(s)": REFUSED,
+    "handles.ZRStringDestroy(s)": REFUSED.replace("PtrArrayDeleteAll: array", "Destroy: string"),
+    "handles.ZRStringPtrArrayDeleteAll(a)": REFUSED,
     "handles.ZRStringDestroy(mutable.contents)": "TypeError: ZRStringDestroy: string must be a "
     "handle",
     "handles.ZRStringGetLength.result(m), handles.ZRMutableStringTrim(s)": "TypeError: "
@@ -176,6 +177,10 @@ class Package(unittest.TestCase):
         index = unittest.mock.MagicMock(**{"__index__.side_effect": [0, 1]})
         array = StringArray("ab")
         self.assertEqual((array.pop(index), array), ("a", ["b"]))  # takes the index only once
+        array, growing = StringArray("ab"), unittest.mock.MagicMock()
+        growing.__index__.side_effect = lambda: array.append("c") or 1
+        array[growing:] = "x"
+        self.assertEqual(array, ["a", "x"])
         for edit in ("del a[0]", "a.clear()", "a[0] = 'x'", "a[:] = 'xy'", "a.remove('one')"):
             array = StringArray(["one", "two"])
             weakref.finalize(array[0], array.append, "gone")
@@ -189,6 +194,16 @@ class Package(unittest.TestCase):
         check_that_the_library_has_the_same(array)
         with self.assertRaises(RuntimeError):  # as from a finalizer during an edit
             array._edit(lambda: array.append("x"))
+
+    def test_a_string_keeps_the_capsule_of_its_handle(self):
+        types = ctypes.py_object, handles.StringRef, ctypes.c_char_p, ctypes.c_void_p
+        owner = MutableString("text")
+        new = ctypes.PYFUNCTYPE(*types)(("PyCapsule_New", ctypes.pythonapi))
+        capsule = new(owner, b"ZRMutableStringRef__", None)
+        references = sys.getrefcount(capsule)
+        string = MutableString.from_handle(capsule)
+        self.assertGreater(sys.getrefcount(capsule), references)
+        self.assertEqual((string.append("!"), owner), ("text!", "text!"))
 
     def test_every_unit_passes_both_ways(self):
         units = "".join(map(chr, range(0xFFFF, -1, -1)))

@@ -6,7 +6,7 @@
 # usage: tests/windows/run.sh [i686|x86_64 [CTEST-ARGUMENT...]]
 # shellcheck disable=SC2016 # what the shell in the namespace expands
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../..")
 . "$top/tools/steps.inc.sh"
 case ${1:-} in
   '') "$0" i686; exec "$0" x86_64 ;;
@@ -16,7 +16,7 @@ case ${1:-} in
 esac
 . "$top/tools/bare-debian.inc.sh"
 "$top/tools/install-packages.sh" bzip2 clang lld python3 unicode-data
-cache=${ZRSTRING_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zrstring-windows}
+cache=$(realpath -m "${ZRSTRING_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zrstring-windows}")
 version=$(LC_ALL=C apt-cache policy wine64 | sed -n 's/^  Candidate: //p')
 export top wine_root=$cache/wine-$version build=$top/build/windows-$1
 

@@ -2,7 +2,7 @@
 # Makes the Debian packages libzrstring1, libzrstring-dev, libzrstring1-dbgsym and python3-zrstring
 # in build/packages. Installs the Debian packages that are missing for that.
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../..")
 . "$top/tools/steps.inc.sh"
 [ $# -eq 0 ] || die "there are no options"
 out=$top/build/packages

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Unpacks a Debian source package into FOLDER. Keeps the package lists for that to itself: the
-# machine's apt configuration stays as it is.
+# Replaces FOLDER by an unpacked Debian source package. Keeps the package lists for that to itself:
+# the machine's apt configuration stays as it is.
 # usage: fetch-source.sh PACKAGE VERSION FOLDER
 set -euo pipefail
+[ $# -eq 3 ] || { echo "usage: fetch-source.sh PACKAGE VERSION FOLDER" >&2; exit 2; }
 package=$1 version=$2 folder=$(realpath -m "$3")
 
 parts=$(mktemp -d)
@@ -19,4 +20,5 @@ cd "$parts"
 "${apt[@]}" update
 "${apt[@]}" source "$package=$version"
 rm -rf "$folder"
+mkdir -p "$(dirname "$folder")"
 mv "$parts/$package"-*/ "$folder"

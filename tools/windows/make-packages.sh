@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Cross-builds the ZIP packages for Windows on Debian.
 set -euo pipefail
-top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd -P)
+top=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../..")
 . "$top/tools/steps.inc.sh"
 
 usage() {
@@ -22,11 +22,12 @@ case ${1:-both} in
   *) usage >&2; exit 2 ;;
 esac
 shift
+[[ ${1:--} = -* ]] || { usage >&2; exit 2; }
 
-cache=${ZRSTRING_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zrstring-windows}
+cache=$(realpath -m "${ZRSTRING_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/zrstring-windows}")
 # ICU's build cannot cope with such a folder, and says so only after minutes.
 [[ $cache != *[[:space:]]* ]] ||
-  die "the folder of the cache must not have a space in its path: ZRSTRING_CACHE='$cache'"
+  die "the folder of the cache must not have a space in its path: '$cache'"
 mkdir -p "$cache"
 build=$top/build/windows-$arch
 check_build_folder "$build" "$top"

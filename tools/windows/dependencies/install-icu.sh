@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the ICU that was built in this folder.
+# Replaces PREFIX, with which ICU was configured in this folder, by the ICU that was built here.
 # usage: install-icu.sh PREFIX
 set -euo pipefail
 
