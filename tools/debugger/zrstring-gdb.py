@@ -8,9 +8,9 @@ build tree, use `source tools/debugger/zrstring-gdb.py`. `print/r` shows the fie
 
 The printers read memory by its layout and need only the program's own debug information, not that
 of ICU or of this library. Without the latter, the string classes are incomplete types to GDB. It
-then shows no strings in C++ arrays and vectors, and GDB 13 shows <incomplete type> for members, for
-arguments passed by value and in `info locals`. All are shown if the library's debug information is
-installed (package libzrstring1-dbgsym).
+then shows no strings in C++ arrays and vectors, and GDB 13 lists members, arguments passed by
+value and local variables as <incomplete type>, though `print` with the name of one shows it. All
+are shown if the library's debug information is installed (package libzrstring1-dbgsym).
 """
 
 import gdb
